@@ -1,0 +1,73 @@
+#include "rss/RSSFeedImporter.h"
+
+#include "model/Utf8.h"
+
+#include <simdjson.h>
+
+#include <algorithm>
+#include <string_view>
+
+namespace {
+
+/// A piece of the file, and where the search goes on after it.
+struct Element
+{
+    std::string_view text;
+    std::size_t end;
+};
+
+/// What stands between the first `startTag` at or after `from` and the first `endTag` behind it.
+std::optional<Element> findElement(std::string_view text, std::string_view startTag,
+                                   std::string_view endTag, std::size_t from = 0)
+{
+    const std::size_t start = text.find(startTag, from);
+    if (start == std::string_view::npos)
+        return std::nullopt;
+    const std::size_t begin = start + startTag.size();
+    // Without an end tag behind this start tag there is none behind a later one either.
+    const std::size_t end = text.find(endTag, begin);
+    if (end == std::string_view::npos)
+        return std::nullopt;
+    return Element{text.substr(begin, end - begin), end + endTag.size()};
+}
+
+QString extract(std::string_view item, std::string_view startTag, std::string_view endTag)
+{
+    const auto element = findElement(item, startTag, endTag);
+    return element ? textFromUtf8(element->text) : QString();
+}
+
+BlogPost postOfItem(std::string_view item, Date date)
+{
+    const QString description = extract(item, "<description>", "</description>");
+    return {
+        .title = extract(item, "<title>", "</title>"),
+        .content = description,
+        .date = date,
+        .description = description,
+        .permalink = extract(item, "<link>", "</link>"),
+    };
+}
+
+Date laterOf(Date left, Date right)
+{
+    return Date(std::max(left.secondsSinceReferenceDate(), right.secondsSinceReferenceDate()));
+}
+
+} // namespace
+
+std::optional<BlogPosts> postsOfFeed(QByteArrayView feed, const std::function<Date()> &now)
+{
+    const std::string_view text(feed.data(), std::size_t(feed.size()));
+    if (!simdjson::validate_utf8(text))
+        return std::nullopt;
+
+    BlogPosts posts;
+    auto item = findElement(text, "<item>", "</item>");
+    while (item) {
+        const Date date = posts.isEmpty() ? now() : laterOf(now(), posts.constLast().date);
+        posts.append(postOfItem(item->text, date));
+        item = findElement(text, "<item>", "</item>", item->end);
+    }
+    return posts;
+}
