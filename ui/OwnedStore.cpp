@@ -1,0 +1,8 @@
+#include "ui/OwnedStore.h"
+
+BlogViewModel *OwnedStore::viewModel()
+{
+    if (!m_viewModel)
+        m_viewModel = BlogViewModel::create();
+    return m_viewModel.get();
+}
