@@ -1,0 +1,81 @@
+# shellcheck shell=bash disable=SC2034
+# Debian's packages that Tavlo is made with, by what they are for. Every list of packages in the
+# project is one of these.
+
+# To compile it. The QML modules of `run_packages` are needed too: the QML compiler reads them.
+build_packages=(
+    ccache
+    cmake
+    g++
+    libegl-dev
+    libgl-dev
+    libicu-dev
+    libsimdjson-dev
+    ninja-build
+    pkg-config
+    qt6-base-dev
+    qt6-declarative-dev
+    qt6-declarative-dev-tools
+    qt6-l10n-tools
+    qt6-svg-dev
+    qt6-tools-dev
+    qt6-tools-dev-tools
+)
+
+# To start it.
+run_packages=(
+    fonts-noto-core
+    libgl1-mesa-dri
+    libqt6svg6
+    libxkbcommon-x11-0
+    qml6-module-qtqml
+    qml6-module-qtqml-models
+    qml6-module-qtqml-workerscript
+    qml6-module-qtquick
+    qml6-module-qtquick-controls
+    qml6-module-qtquick-layouts
+    qml6-module-qtquick-shapes
+    qml6-module-qtquick-templates
+    qml6-module-qtquick-window
+    qt6-wayland
+    tzdata
+)
+
+# To give it a display, a window manager and a session bus where there are none.
+display_packages=(
+    dbus-daemon
+    imagemagick
+    openbox
+    x11-utils
+    xauth
+    xdotool
+    xvfb
+)
+
+# To test it.
+test_packages=(
+    at-spi2-core
+    dbus-x11
+    fonts-noto-cjk
+    fonts-noto-color-emoji
+    libgmock-dev
+    libgtest-dev
+    librapidcheck-dev
+    libxml2-utils
+    python3
+    python3-feedparser
+    python3-pyatspi
+    qml6-module-qttest
+    xclip
+)
+
+# To check its source.
+check_packages=(
+    clang-14
+    clang-format-14
+    clang-tidy-14
+    git
+    libclang-rt-14-dev
+    llvm-14
+    shellcheck
+)
