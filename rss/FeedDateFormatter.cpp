@@ -17,7 +17,7 @@ std::string FeedDateFormatter::format(Date date) const
     const auto milliseconds =
         static_cast<UDate>(date.wholeSecondsOfUnixTime()) * U_MILLIS_PER_SECOND;
     icu::UnicodeString text;
-    icu::FieldPosition zone(UDAT_TIMEZONE_FIELD);
+    icu::FieldPosition zone(UDAT_TIMEZONE_RFC_FIELD);
     m_format->format(milliseconds, text, zone);
     // Local times from before the age of time zones have seconds in their offset; a feed's has not.
     constexpr int32_t signAndFourDigits = 5;
