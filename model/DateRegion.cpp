@@ -14,15 +14,6 @@ std::string_view environment(const char *name)
     return value ? value : "";
 }
 
-std::string_view posixLocaleForTimes()
-{
-    for (const char *name : {"LC_ALL", "LC_TIME", "LANG"}) {
-        if (const std::string_view value = environment(name); !value.empty())
-            return value;
-    }
-    return "C";
-}
-
 std::string userTimeZone()
 {
     const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
@@ -48,7 +39,16 @@ std::string_view scriptOfModifier(std::string_view modifier)
 
 DateRegion DateRegion::current()
 {
-    return {icuLocaleName(posixLocaleForTimes()), userTimeZone()};
+    return {userLocale("LC_TIME"), userTimeZone()};
+}
+
+std::string userLocale(const char *category)
+{
+    for (const char *name : {"LC_ALL", category, "LANG"}) {
+        if (const std::string_view value = environment(name); !value.empty())
+            return icuLocaleName(value);
+    }
+    return icuLocaleName("C");
 }
 
 std::string icuLocaleName(std::string_view posixName)

@@ -72,6 +72,15 @@ QString textFromUtf8(std::string_view utf8)
     return keepingByteOrderMark(bytes);
 }
 
+QString wellFormed(const QString &text)
+{
+    if (text.isValidUtf16())
+        return text;
+    Utf8Document document;
+    document.appendText(text);
+    return textFromUtf8(document.take().toStdString());
+}
+
 void Utf8Document::appendText(QStringView text)
 {
     appendUtf16(m_bytes, text, 1, [](char *out, char character) {

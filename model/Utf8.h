@@ -10,6 +10,9 @@
 /// U+FEFF at the start too.
 QString textFromUtf8(std::string_view utf8);
 
+/// The text with each lone surrogate, which UTF-8 cannot hold, replaced by U+FFFD.
+QString wellFormed(const QString &text);
+
 /// What stands in a document for each ASCII character that may not stand for itself there. An
 /// empty replacement leaves the character as it is.
 using Escapes = std::array<std::string_view, 128>;

@@ -6,12 +6,17 @@ import Tavlo
 ApplicationWindow {
     id: root
 
-    title: "Tavlo"
-    width: 960
-    height: 760
+    width: Math.max(960, root.minimumWidth)
+    height: Math.max(760, root.minimumHeight)
+    minimumWidth: content.leastWidth
+    minimumHeight: content.leastHeight
     visible: true
+    color: Theme.window
+    font.pixelSize: Theme.bodySize
 
     ContentView {
+        id: content
+
         anchors.fill: parent
     }
 }

@@ -1,28 +1,35 @@
+#include "model/DateRegion.h"
+
 #include <QApplication>
+#include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 
 #include <csignal>
+
+namespace {
+
+/// The direction in which the language of the user's messages is written.
+Qt::LayoutDirection directionOfMessages()
+{
+    return QLocale(QString::fromStdString(userLocale("LC_MESSAGES"))).textDirection();
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
     // The import's line must not end the program when nobody reads its standard output.
     std::signal(SIGPIPE, SIG_IGN);
 
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tavlo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tavlo"));
     QApplication::setDesktopFileName(QStringLiteral("org.example.Tavlo"));
+    QApplication::setLayoutDirection(directionOfMessages());
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     QQmlApplicationEngine engine;
-    QObject::connect(
-        &engine, &QQmlApplicationEngine::objectCreated, &application,
-        [](const QObject *window) {
-            if (!window)
-                QCoreApplication::exit(EXIT_FAILURE);
-        },
-        Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/qt-project.org/imports/Tavlo/TavloApp.qml")));
-    return QApplication::exec();
+    return engine.rootObjects().isEmpty() ? EXIT_FAILURE : QApplication::exec();
 }

@@ -1,0 +1,109 @@
+import QtQuick
+import QtQuick.Layouts
+import Tavlo
+
+// The bar at the top of the window: logo and name, and the four buttons. Where they do not fit
+// side by side, the buttons go below the name.
+Rectangle {
+    id: root
+
+    readonly property bool fits: logo.implicitWidth + Theme.padding + buttons.oneRowWidth <= root.width - 2 * Theme.padding
+
+    signal newPostRequested
+    signal exportRequested
+    signal importRequested
+    signal settingsRequested
+
+    // Where the focus goes when nothing else can have it.
+    function focusNewPost(): void {
+        newPost.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    implicitHeight: grid.implicitHeight + 2 * Theme.padding
+    color: Theme.header
+
+    GridLayout {
+        id: grid
+
+        x: Theme.padding
+        y: Theme.padding
+        width: root.width - 2 * Theme.padding
+        columns: root.fits ? 2 : 1
+        columnSpacing: Theme.padding
+        rowSpacing: Theme.spacing
+
+        RowLayout {
+            id: logo
+
+            spacing: Theme.spacing
+
+            Image {
+                source: "rss-logo.svg"
+                sourceSize: Qt.size(32, 32)
+                Accessible.ignored: true
+                Layout.preferredWidth: 32
+                Layout.preferredHeight: 32
+            }
+
+            Text {
+                text: "Tavlo"
+                color: Theme.text
+                font.pixelSize: Theme.largeTitleSize
+                font.bold: true
+                textFormat: Text.PlainText
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+        }
+
+        Flow {
+            id: buttons
+
+            readonly property real oneRowWidth: newPost.width + exportFeed.width + importFeed.width + settings.width + 3 * buttons.spacing
+
+            spacing: 8
+            Layout.fillWidth: !root.fits
+            Layout.preferredWidth: buttons.oneRowWidth
+            Layout.alignment: Qt.AlignRight | Qt.AlignVCenter
+
+            ProminentButton {
+                id: newPost
+
+                objectName: "newPostButton"
+                symbol: "plus"
+                text: qsTr("New Post")
+                help: qsTr("Create a new blog post")
+                onClicked: root.newPostRequested()
+            }
+
+            ProminentButton {
+                id: exportFeed
+
+                objectName: "exportButton"
+                symbol: "square.and.arrow.down"
+                text: qsTr("Export RSS")
+                help: qsTr("Export RSS feed")
+                onClicked: root.exportRequested()
+            }
+
+            ProminentButton {
+                id: importFeed
+
+                objectName: "importButton"
+                text: qsTr("Import RSS")
+                help: qsTr("Import existing RSS feeds")
+                onClicked: root.importRequested()
+            }
+
+            ProminentButton {
+                id: settings
+
+                objectName: "settingsButton"
+                symbol: "gearshape"
+                text: qsTr("Blog Settings")
+                help: qsTr("Edit RSS feed settings")
+                onClicked: root.settingsRequested()
+            }
+        }
+    }
+}
