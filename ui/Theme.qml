@@ -25,7 +25,7 @@ QtObject {
 
     // Controls
     readonly property color accent: root.dark ? "#3d7dd8" : "#1f62c4"
-    readonly property color onAccent: "#ffffff"
+    readonly property color accentText: "#ffffff"
     readonly property color border: root.dark ? "#85858f" : "#86868f"
     readonly property color focusRing: root.dark ? "#8fc0ff" : "#1f62c4"
 
