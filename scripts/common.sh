@@ -50,7 +50,8 @@ need() {
     fi
 
     say "Installing ${missing[*]}"
-    local try
+    local log=$root/build/packages.log try
+    mkdir -p "${log%/*}"
     for try in 1 2 3; do
         # Another program may be updating the lists just now. Old lists may do as well.
         if "${as_root[@]}" apt-get -qq update </dev/null; then
@@ -61,7 +62,7 @@ need() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get -qq install --no-install-recommends \
         -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 \
-        "${missing[@]}" </dev/null || true
+        "${missing[@]}" </dev/null >"$log" 2>&1 || tail -n 20 "$log" >&2
 
     mapfile -t missing < <(missing_packages "${missing[@]}")
     if ((${#missing[@]} > 0)); then
