@@ -16,6 +16,7 @@ run_on_own_display() {
     trap 'exit 130' INT
     trap 'exit 143' TERM
 
+    rm -f "$screenshot"
     start_display
     start_session
     say "There is no display here, so Tavlo starts on one of its own, $DISPLAY."
