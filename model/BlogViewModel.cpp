@@ -182,7 +182,12 @@ QByteArray BlogViewModel::generateRSSFeed() const
 
 void BlogViewModel::exportRSS(const QUrl &to) const
 {
-    replaceFile(to.toLocalFile(), generateRSSFeed());
+    exportRSS(to.toLocalFile());
+}
+
+void BlogViewModel::exportRSS(const QString &toPath) const
+{
+    replaceFile(toPath, generateRSSFeed());
 }
 
 QString BlogViewModel::getDocumentsDirectory()

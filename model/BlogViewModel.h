@@ -73,6 +73,10 @@ public:
     /// Writes the feed to a local file, atomically.
     Q_INVOKABLE void exportRSS(const QUrl &to) const;
 
+    /// The same, to a path taken as typed. Not every path comes back from a QUrl as it went in:
+    /// "a:b" is taken for a drive's, "//a" for a host's.
+    Q_INVOKABLE void exportRSS(const QString &toPath) const;
+
 signals:
     /// Sent before any property changes, also when its new value equals the old one.
     void objectWillChange();

@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <filesystem>
+
 namespace {
 
 /// The file's absolute path: Qt takes a relative one that begins with ":/" for a resource. Nothing
@@ -20,6 +22,23 @@ bool isRegularFileOrAbsent(const QString &path)
 {
     const QFileInfo target(path);
     return !target.exists() || target.isFile();
+}
+
+/// The file that an absolute path names once the symbolic links at its end are followed, whether
+/// it exists or not; nothing for links that lead round in a circle.
+std::optional<QString> endOfLinks(const QString &path)
+{
+    constexpr int mostLinks = 40; // as the system has it
+    std::filesystem::path file(QFile::encodeName(path).toStdString());
+    for (int links = 0; links < mostLinks; ++links) {
+        std::error_code isNoLink;
+        const auto next = std::filesystem::read_symlink(file, isNoLink);
+        if (isNoLink)
+            return QFile::decodeName(file.c_str());
+        // Joined and not tidied: ".." behind a linked folder climbs from where that folder is.
+        file = file.parent_path() / next;
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -50,10 +69,13 @@ bool rewriteFile(const QString &path, const QByteArray &bytes)
 
 bool replaceFile(const QString &path, const QByteArray &bytes)
 {
-    const auto target = absolutePath(path);
+    const auto name = absolutePath(path);
+    const auto target = name ? endOfLinks(*name) : std::nullopt;
     if (!target || target->endsWith(u'/') || !isRegularFileOrAbsent(*target))
         return false;
     QSaveFile file(*target);
-    // A write that failed makes the commit fail, which removes the auxiliary file.
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    // Unbuffered: the commit of a buffered file passes over a write that fails as it is closed.
+    // Without a commit the auxiliary file is removed.
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && file.write(bytes) == bytes.size() && file.commit();
 }
