@@ -13,7 +13,7 @@ constexpr Escapes descriptionEscapes = [] {
     return escapes;
 }();
 
-void appendItem(Utf8Document &feed, const BlogPost &post, const FeedDateFormatter &dates)
+void appendItem(Utf8Document &feed, const BlogPost &post, FeedDateFormatter &dates)
 {
     feed.append("<item>\n  <title>");
     feed.appendText(post.title);
@@ -30,7 +30,7 @@ void appendItem(Utf8Document &feed, const BlogPost &post, const FeedDateFormatte
 
 QByteArray feedOfPosts(const RSSSettings &channel, const BlogPosts &posts, const DateRegion &region)
 {
-    const FeedDateFormatter dates(region);
+    FeedDateFormatter dates(region);
     Utf8Document feed;
     feed.append("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<rss version=\"2.0\">\n"
                 "  <channel>\n    <title>");
