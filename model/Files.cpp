@@ -1,6 +1,5 @@
 #include "model/Files.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -9,13 +8,13 @@
 
 namespace {
 
-/// The file's absolute path: Qt takes a relative one that begins with ":/" for a resource. Nothing
-/// for a path that names no file.
-std::optional<QString> absolutePath(const QString &path)
+/// The path as Qt takes it for nothing but a path: a relative one that begins with ":/" would be a
+/// resource. Nothing for a path that names no file.
+std::optional<QString> plainPath(const QString &path)
 {
     if (path.isEmpty() || path.contains(QChar::Null))
         return std::nullopt;
-    return path.startsWith(u'/') ? path : QDir::currentPath() + u'/' + path;
+    return path.startsWith(u'/') ? path : QStringLiteral("./") + path;
 }
 
 bool isRegularFileOrAbsent(const QString &path)
@@ -24,8 +23,8 @@ bool isRegularFileOrAbsent(const QString &path)
     return !target.exists() || target.isFile();
 }
 
-/// The file that an absolute path names once the symbolic links at its end are followed, whether
-/// it exists or not; nothing for links that lead round in a circle.
+/// The file that a path names once the symbolic links at its end are followed, whether it exists
+/// or not; nothing for links that lead round in a circle.
 std::optional<QString> endOfLinks(const QString &path)
 {
     constexpr int mostLinks = 40; // as the system has it
@@ -45,7 +44,7 @@ std::optional<QString> endOfLinks(const QString &path)
 
 std::optional<QByteArray> readFile(const QString &path)
 {
-    const auto source = absolutePath(path);
+    const auto source = plainPath(path);
     if (!source || !QFileInfo(*source).isFile())
         return std::nullopt;
     QFile file(*source);
@@ -59,7 +58,7 @@ std::optional<QByteArray> readFile(const QString &path)
 
 bool rewriteFile(const QString &path, const QByteArray &bytes)
 {
-    const auto target = absolutePath(path);
+    const auto target = plainPath(path);
     if (!target || !isRegularFileOrAbsent(*target))
         return false;
     QFile file(*target);
@@ -69,7 +68,7 @@ bool rewriteFile(const QString &path, const QByteArray &bytes)
 
 bool replaceFile(const QString &path, const QByteArray &bytes)
 {
-    const auto name = absolutePath(path);
+    const auto name = plainPath(path);
     const auto target = name ? endOfLinks(*name) : std::nullopt;
     if (!target || target->endsWith(u'/') || !isRegularFileOrAbsent(*target))
         return false;
