@@ -37,7 +37,7 @@ Item {
     }
 
     function exportFeed(): void {
-        root.viewModel.exportRSS(FileLocations.ofPath(root.exportPath));
+        root.viewModel.exportRSS(root.exportPath);
         root.showingExportPrompt = false;
         root.exportError = undefined;
     }

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QObject>
-#include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
-/// Paths and file locations. A path that QML hands to a URL would be parsed as an address, and
-/// lose its "#", "?" and "%".
+/// Where the user's files are.
 class FileLocations : public QObject
 {
     Q_OBJECT
@@ -17,7 +15,4 @@ public:
 
     /// The path of the file `name` on the user's desktop, looked up anew.
     Q_INVOKABLE QString onDesktop(const QString &name) const;
-
-    /// The location of the file at a path, taken exactly as it stands.
-    Q_INVOKABLE QUrl ofPath(const QString &path) const;
 };
