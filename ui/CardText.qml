@@ -1,0 +1,95 @@
+import QtQuick
+import Tavlo
+
+// A text of a card, plain and whole. When it changes in sight, the old text fades into the new one
+// while the height follows.
+Item {
+    id: root
+
+    required property string text
+    required property font font
+    required property color color
+    // Whether a change is shown as a movement; otherwise it is done at once.
+    property bool animated: false
+    // The text on screen: it follows `text`.
+    property string shownText: ""
+    // How much taller than the text the item is while its height follows.
+    property real surplus: 0
+
+    implicitWidth: label.implicitWidth
+    implicitHeight: label.height + root.surplus
+    clip: transition.running
+
+    onTextChanged: {
+        transition.complete();
+        if (root.animated) {
+            const height = label.height;
+            former.text = root.shownText;
+            root.shownText = root.text;
+            root.surplus = height - label.height;
+            transition.start();
+        } else {
+            root.shownText = root.text;
+        }
+    }
+    Component.onCompleted: root.shownText = root.text
+
+    component Label: Text {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignLeft
+        font: root.font
+        color: root.color
+        Accessible.ignored: true
+    }
+
+    Label {
+        id: label
+
+        text: root.shownText
+        height: root.shownText.length > 0 ? label.implicitHeight : 0
+    }
+
+    Label {
+        id: former
+
+        visible: transition.running
+    }
+
+    ParallelAnimation {
+        id: transition
+
+        onStopped: former.text = ""
+
+        NumberAnimation {
+            target: label
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.duration
+            easing.type: Easing.Bezier
+            easing.bezierCurve: Theme.easeInOut
+        }
+
+        NumberAnimation {
+            target: former
+            property: "opacity"
+            from: 1
+            to: 0
+            duration: Theme.duration
+            easing.type: Easing.Bezier
+            easing.bezierCurve: Theme.easeInOut
+        }
+
+        NumberAnimation {
+            target: root
+            property: "surplus"
+            to: 0
+            duration: Theme.duration
+            easing.type: Easing.Bezier
+            easing.bezierCurve: Theme.easeInOut
+        }
+    }
+}

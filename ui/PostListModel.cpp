@@ -1,0 +1,116 @@
+#include "ui/PostListModel.h"
+
+#include "model/LongDate.h"
+#include "ui/ListDifference.h"
+
+void PostListModel::setViewModel(BlogViewModel *viewModel)
+{
+    if (viewModel == m_viewModel)
+        return;
+    if (m_viewModel)
+        m_viewModel->disconnect(this);
+    m_viewModel = viewModel;
+    if (viewModel)
+        connect(viewModel, &BlogViewModel::postsChanged, this, &PostListModel::follow);
+    reset();
+    emit viewModelChanged();
+}
+
+int PostListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rowCount);
+}
+
+QVariant PostListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const BlogPost &post = postAt(index.row());
+    switch (role) {
+    case Post:
+        return QVariant::fromValue(post);
+    case DateText:
+        return longDate(post.date, DateRegion::current());
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> PostListModel::roleNames() const
+{
+    return {{Post, "post"}, {DateText, "dateText"}};
+}
+
+/// Brings the rows up to date. A change that a listener makes meanwhile comes after this one.
+void PostListModel::follow()
+{
+    if (m_following)
+        return;
+    m_following = true;
+    while (m_viewModel && !m_posts.isSharedWith(m_viewModel->posts()))
+        applySteps();
+    m_following = false;
+}
+
+void PostListModel::applySteps()
+{
+    emit aboutToChange();
+    m_before = m_posts;
+    m_posts = m_viewModel->posts();
+    m_boundary = m_before.size();
+    const QList<ListStep> steps = listDifference(m_before, m_posts);
+    for (const ListStep &step : steps) {
+        const int first = static_cast<int>(step.first);
+        const int last = static_cast<int>(step.first + step.count) - 1;
+        // Between two steps both lists have the same rows: the boundary may pass over them.
+        switch (step.kind) {
+        case ListStep::Kind::Remove:
+            m_boundary = last + 1;
+            beginRemoveRows({}, first, last);
+            m_boundary = first;
+            m_rowCount -= step.count;
+            endRemoveRows();
+            break;
+        case ListStep::Kind::Insert:
+            m_boundary = first;
+            beginInsertRows({}, first, last);
+            m_rowCount += step.count;
+            endInsertRows();
+            break;
+        case ListStep::Kind::Update:
+            m_boundary = first;
+            emit dataChanged(index(first), index(last));
+            break;
+        }
+    }
+    m_boundary = 0;
+    const qsizetype oldCount = m_before.size();
+    m_before.clear();
+    announceCount(oldCount);
+    const bool oneInserted = steps.size() == 1 && steps.first().kind == ListStep::Kind::Insert
+        && steps.first().count == 1;
+    emit changed(oneInserted ? static_cast<int>(steps.first().first) : -1);
+}
+
+void PostListModel::reset()
+{
+    const qsizetype oldCount = m_posts.size();
+    beginResetModel();
+    m_posts = m_viewModel ? m_viewModel->posts() : BlogPosts();
+    m_rowCount = m_posts.size();
+    endResetModel();
+    announceCount(oldCount);
+}
+
+void PostListModel::announceCount(qsizetype oldCount)
+{
+    if (oldCount != m_posts.size())
+        emit countChanged();
+    if ((oldCount == 0) != m_posts.isEmpty())
+        emit emptyChanged();
+}
+
+const BlogPost &PostListModel::postAt(qsizetype row) const
+{
+    return row < m_boundary ? m_before[row] : m_posts[m_posts.size() - (m_rowCount - row)];
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "model/BlogViewModel.h"
+
+#include <QAbstractListModel>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+/// The store's posts as the rows of a list. Each change of the store becomes the fewest row
+/// changes, so that a row keeps its identity for as long as its post is there.
+class PostListModel : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(BlogViewModel *viewModel READ viewModel WRITE setViewModel NOTIFY viewModelChanged)
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(bool empty READ isEmpty NOTIFY emptyChanged)
+
+public:
+    enum Role {
+        Post = Qt::UserRole, ///< the whole record, a BlogPost
+        DateText,            ///< its calendar date in the user's locale
+    };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    BlogViewModel *viewModel() const { return m_viewModel; }
+
+    /// Shows another store's posts. Nothing of this is a row change.
+    void setViewModel(BlogViewModel *viewModel);
+
+    /// How many rows the last finished change left.
+    int count() const { return static_cast<int>(m_posts.size()); }
+    bool isEmpty() const { return m_posts.isEmpty(); }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+signals:
+    void viewModelChanged();
+    void countChanged();
+    void emptyChanged();
+
+    /// Sent before the rows change, unless they are replaced by another store's.
+    void aboutToChange();
+
+    /// Sent after aboutToChange(), when all rows are in place. A change that did nothing but put
+    /// in one row tells which; any other gives -1.
+    void changed(int insertedRow);
+
+private:
+    void follow();
+    void applySteps();
+    void reset();
+    void announceCount(qsizetype oldCount);
+
+    const BlogPost &postAt(qsizetype row) const;
+
+    QPointer<BlogViewModel> m_viewModel;
+    BlogPosts m_posts;        ///< the rows shown, or to be shown when the steps are done
+    BlogPosts m_before;       ///< the rows shown before
+    qsizetype m_boundary = 0; ///< rows above it are still those of m_before
+    qsizetype m_rowCount = 0;
+    bool m_following = false;
+};
