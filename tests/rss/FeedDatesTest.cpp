@@ -2,6 +2,8 @@
 #include "rss/FeedDateFormatter.h"
 #include "rss/RSSFeedWriter.h"
 #include "tests/rss/FeedSamples.h"
+#include "tests/support/Posts.h"
+#include "tests/support/Printers.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -159,9 +161,9 @@ TEST(FeedDate, ofAnUnknownRegion_isWrittenAllTheSame)
 
 TEST(FeedDate, onBothSidesOfAClockChange_carriesBothOffsetsInOneDocument)
 {
-    const BlogPosts posts{titledPost({}, instant("2026-01-15T12:00:00Z")),
-                          titledPost({}, instant("2026-07-15T12:00:00Z")),
-                          titledPost({}, instant("2026-12-15T12:00:00Z"))};
+    const BlogPosts posts{postTitled({}, instant("2026-01-15T12:00:00Z")),
+                          postTitled({}, instant("2026-07-15T12:00:00Z")),
+                          postTitled({}, instant("2026-12-15T12:00:00Z"))};
     const QByteArray feed = feedOfPosts({}, posts, {"en_GB", "Europe/Berlin"});
     EXPECT_EQ(feed.count("<pubDate>Thu, 15 Jan 2026 13:00:00 +0100</pubDate>"), 1);
     EXPECT_EQ(feed.count("<pubDate>Wed, 15 Jul 2026 14:00:00 +0200</pubDate>"), 1);
@@ -272,7 +274,7 @@ RC_GTEST_PROP(FeedDate, isWhatThePatternsOwnEngineWrites, ())
     const auto dates =
         *rc::gen::container<std::vector<double>>(200, anySeconds(plain.clockChanges()));
     // One formatter for all: no date may depend on the one before.
-    const FeedDateFormatter formatter(region);
+    FeedDateFormatter formatter(region);
     for (const double date : dates)
         RC_ASSERT(formatter.format(Date(date)) == plain(date));
 }
@@ -283,7 +285,7 @@ TEST(FeedDate, inEveryLocaleAndZone_isWhatThePatternsOwnEngineWrites)
         for (const char *timeZone : timeZones) {
             const DateRegion region{locale, timeZone};
             const PlainFormat plain(region);
-            const FeedDateFormatter formatter(region);
+            FeedDateFormatter formatter(region);
             for (double date = -250.0 * year; date < 250.0 * year; date += 7.3 * year)
                 ASSERT_EQ(formatter.format(Date(date)), plain(date)) << locale << ' ' << timeZone;
         }

@@ -3,18 +3,20 @@
 #include "model/Files.h"
 #include "tests/rss/ExportFolder.h"
 #include "tests/rss/FeedSamples.h"
+#include "tests/rss/Watchdog.h"
+#include "tests/support/FileSizeLimit.h"
+#include "tests/support/Posts.h"
+#include "tests/support/Printers.h"
 
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <cmath>
-#include <csignal>
 #include <limits>
 #include <thread>
 
@@ -40,47 +42,12 @@ private:
     mode_t m_before;
 };
 
-/// A disk on which no file grows beyond a size, for as long as this object lives: a write beyond
-/// it fails as it does on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_onSignal(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_onSignal);
-    }
-
-private:
-    void (*m_onSignal)(int);
-    rlimit m_before{};
-};
-
-/// Ends the process when the test that holds it takes longer than a test of files ever does.
-class Watchdog
-{
-public:
-    Watchdog() { alarm(20); }
-    Watchdog(const Watchdog &) = delete;
-    Watchdog &operator=(const Watchdog &) = delete;
-    ~Watchdog() { alarm(0); }
-};
-
 } // namespace
 
 TEST_F(FeedExport, holdsTheFeedInUtf8WithoutAByteOrderMark)
 {
     store->setBlogTitle(u"\u00c4rger & \u65e5\u672c \U0001F600"_s);
-    store->addPost(titledPost(u"\ufeffHello"_s));
+    store->addPost(postTitled(u"\ufeffHello"_s));
     store->exportRSS(path("feed.xml"));
     EXPECT_EQ(bytesOf("feed.xml"), store->generateRSSFeed());
     EXPECT_TRUE(bytesOf("feed.xml").startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<rss "));
@@ -108,7 +75,7 @@ TEST_F(FeedExport, isInTheRegionOfTheMoment)
     const auto pubDate = [this] {
         return between(store->generateRSSFeed(), "<pubDate>", "</pubDate>");
     };
-    store->addPost(titledPost(u"Post"_s, instant("2026-01-05T09:03:07Z")));
+    store->addPost(postTitled(u"Post"_s, instant("2026-01-05T09:03:07Z")));
     EXPECT_EQ(pubDate(), "Mo., 5 Jan. 2026 05:33:07 -0330");
     all.set("ja_JP.UTF-8");
     timeZone.set("Asia/Kathmandu");
@@ -122,7 +89,7 @@ TEST_F(FeedExport, isInTheRegionOfTheMoment)
 
 TEST_F(FeedExport, carriesTheDescriptionWhateverTheArticleOption)
 {
-    BlogPost post = titledPost(u"Post"_s);
+    BlogPost post = postTitled(u"Post"_s);
     post.description = u"short"_s;
     post.content = u"the body text"_s;
     store->addPost(post);
@@ -135,8 +102,8 @@ TEST_F(FeedExport, carriesTheDescriptionWhateverTheArticleOption)
 
 TEST_F(FeedExport, hasThePostAddedLastFirst)
 {
-    store->addPost(titledPost(u"older"_s, instant("2030-01-01T00:00:00Z")));
-    store->addPost(titledPost(u"newer"_s, instant("2020-01-01T00:00:00Z")));
+    store->addPost(postTitled(u"older"_s, instant("2030-01-01T00:00:00Z")));
+    store->addPost(postTitled(u"newer"_s, instant("2020-01-01T00:00:00Z")));
     const QByteArray feed = store->generateRSSFeed();
     EXPECT_LT(feed.indexOf("newer"), feed.indexOf("older"));
 }
@@ -145,7 +112,7 @@ TEST_F(FeedExport, ofDatesThatJsonCannotHold_isWrittenAllTheSame)
 {
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double seconds : {std::nan(""), infinity, -infinity, 1e300, -1e300})
-        store->addPost(titledPost(u"Far"_s, Date(seconds)));
+        store->addPost(postTitled(u"Far"_s, Date(seconds)));
     store->exportRSS(path("feed.xml"));
     EXPECT_EQ(bytesOf("feed.xml").count("<title>Far</title>"), 5);
 }
@@ -153,10 +120,10 @@ TEST_F(FeedExport, ofDatesThatJsonCannotHold_isWrittenAllTheSame)
 TEST_F(FeedExport, ofAnOlderFile_leavesOnlyTheNewDocument)
 {
     for (int i = 0; i < 500; ++i)
-        store->setPosts(store->posts() + BlogPosts{titledPost(u"Long"_s)});
+        store->setPosts(store->posts() + BlogPosts{postTitled(u"Long"_s)});
     store->exportRSS(path("feed.xml"));
     const QByteArray longer = bytesOf("feed.xml");
-    store->setPosts({titledPost(u"Short"_s)});
+    store->setPosts({postTitled(u"Short"_s)});
     store->exportRSS(path("feed.xml"));
     EXPECT_LT(bytesOf("feed.xml").size(), longer.size());
     EXPECT_EQ(bytesOf("feed.xml"), store->generateRSSFeed());
@@ -165,7 +132,7 @@ TEST_F(FeedExport, ofAnOlderFile_leavesOnlyTheNewDocument)
 
 TEST_F(FeedExport, changesNeitherTheStoreNorItsFiles)
 {
-    store->addPost(titledPost(u"Post"_s));
+    store->addPost(postTitled(u"Post"_s));
     store->saveSettings();
     store->setBlogTitle(u"Not saved"_s);
     const BlogPosts posts = store->posts();
@@ -184,8 +151,7 @@ TEST_F(FeedExport, changesNeitherTheStoreNorItsFiles)
     store->exportRSS(path("missing/feed.xml"));
 
     EXPECT_EQ(changes, 0);
-    ASSERT_EQ(store->posts().size(), 1);
-    EXPECT_EQ(store->posts().first().id, posts.first().id);
+    EXPECT_TRUE(identical(store->posts(), posts));
     EXPECT_EQ(store->blogTitle(), u"Not saved"_s);
     EXPECT_EQ(home.read(u"posts.json"_s), postsFile);
     EXPECT_EQ(home.read(u"rss_settings.json"_s), settingsFile);
@@ -216,7 +182,7 @@ TEST_F(FeedExport, isNeverSeenInParts)
 {
     BlogPosts posts;
     for (int i = 0; i < 2000; ++i)
-        posts.append(titledPost(u"Post"_s));
+        posts.append(postTitled(u"Post"_s));
     store->setPosts(posts);
     const QByteArray longer = store->generateRSSFeed();
     store->setPosts({});
@@ -322,7 +288,7 @@ protected:
         FeedExport::SetUp();
         BlogPosts posts;
         for (int i = 0; i < 1000; ++i)
-            posts.append(titledPost(u"A post that takes room"_s));
+            posts.append(postTitled(u"A post that takes room"_s));
         store->setPosts(posts);
         ASSERT_GT(rlim_t(store->generateRSSFeed().size()), GetParam());
     }
@@ -331,7 +297,7 @@ protected:
 TEST_P(FeedExportToAFullDisk, leavesNothingBehind)
 {
     {
-        const FullDisk disk(GetParam());
+        const FileSizeLimit disk(GetParam());
         store->exportRSS(path("feed.xml"));
     }
     EXPECT_EQ(names(), QStringList());
@@ -342,7 +308,7 @@ TEST_P(FeedExportToAFullDisk, leavesTheOlderFileWhole)
     write("feed.xml", "old");
     const auto inode = status(encoded("feed.xml")).st_ino;
     {
-        const FullDisk disk(GetParam());
+        const FileSizeLimit disk(GetParam());
         store->exportRSS(path("feed.xml"));
     }
     EXPECT_EQ(bytesOf("feed.xml"), "old");
@@ -358,11 +324,11 @@ TEST_F(FeedExport, ofAFeedOneByteLargerThanTheDisk_leavesNothingBehind)
 {
     const auto size = rlim_t(store->generateRSSFeed().size());
     {
-        const FullDisk disk(size - 1);
+        const FileSizeLimit disk(size - 1);
         store->exportRSS(path("feed.xml"));
     }
     EXPECT_EQ(names(), QStringList());
-    const FullDisk disk(size);
+    const FileSizeLimit disk(size);
     store->exportRSS(path("feed.xml"));
     EXPECT_EQ(bytesOf("feed.xml"), store->generateRSSFeed());
 }
@@ -473,6 +439,6 @@ TEST(ReplaceFile, saysWhetherItDid)
     EXPECT_FALSE(replaceFile(home.path(), "new"));
     EXPECT_FALSE(replaceFile(home.path(u"missing/file"_s), "new"));
     EXPECT_FALSE(replaceFile(QString(), "new"));
-    const FullDisk disk(2);
+    const FileSizeLimit disk(2);
     EXPECT_FALSE(replaceFile(home.path(u"file"_s), "new"));
 }

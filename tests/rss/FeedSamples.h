@@ -1,12 +1,12 @@
 #pragma once
 
-#include "model/BlogPost.h"
+#include "model/Date.h"
 #include "model/DateRegion.h"
 
 #include <QByteArray>
 #include <QDateTime>
 
-// Small makers of what the feed's tests are about.
+// Small makers of what the feed's tests are about, and a way to look into a feed.
 
 /// English names, no offset.
 inline const DateRegion neutralRegion{"en_US_POSIX", "UTC"};
@@ -18,11 +18,6 @@ inline Date instant(const char *iso8601)
     Q_ASSERT(time.isValid());
     const double seconds = double(time.toMSecsSinceEpoch()) / 1000;
     return Date(seconds - double(Date::referenceDateInUnixTime));
-}
-
-inline BlogPost titledPost(const QString &title, Date date = instant("2026-01-05T09:03:07Z"))
-{
-    return {.title = title, .content = {}, .date = date, .description = {}, .permalink = {}};
 }
 
 /// The one text between two pieces of a document.
