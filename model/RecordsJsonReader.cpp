@@ -5,6 +5,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
 #include <string_view>
 
 // The parser validates what it is asked for and no more, so every value is visited, those under
@@ -20,8 +23,9 @@ using simdjson::ondemand::value;
 /// How deeply arrays and objects may be nested, the document's own included.
 constexpr int deepestNesting = 512;
 
-/// The depth of a value that is a record's field.
-constexpr int fieldDepth = 3;
+/// The depth of a value that is a post's field, and of one that is the settings'.
+constexpr int postFieldDepth = 3;
+constexpr int settingsFieldDepth = 2;
 
 [[noreturn]] void failDecoding(simdjson::error_code error)
 {
@@ -33,8 +37,8 @@ bool isDigit(char character)
     return character >= '0' && character <= '9';
 }
 
-/// Checks a number by RFC 8259 section 6 without reading it: it may fit no number type.
-void checkNumber(value json)
+/// The text of a number, checked by RFC 8259 section 6 but not read: it may fit no number type.
+std::string_view numberText(value json)
 {
     std::string_view text = json.raw_json_token();
     text = text.substr(0, text.find_last_not_of(" \t\r\n") + 1);
@@ -60,6 +64,17 @@ void checkNumber(value json)
     }
     if (!valid || next != text.end())
         failDecoding(simdjson::NUMBER_ERROR);
+    return text;
+}
+
+/// The double nearest to a checked number: a zero if it is too small for one, an infinity if it is
+/// too large. The parser's own reading is wrong by magnitudes for more than 19 digits, and the
+/// standard library's, without a locale of its own, looks for the user's decimal point.
+double nearestDouble(std::string_view number)
+{
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    // In a document some other character always ends a number.
+    return strtod_l(number.data(), nullptr, plain);
 }
 
 /// Reads past a value, checking all of it.
@@ -75,7 +90,7 @@ void skip(value json, int depth)
         json.get_string().value();
         return;
     case json_type::number:
-        checkNumber(json);
+        numberText(json);
         return;
     case json_type::boolean:
         json.get_bool().value();
@@ -99,18 +114,18 @@ void skip(value json, int depth)
 // Each reader below gives nothing for a value of another type. That alone is no error yet: the
 // key may be repeated, and then its last value counts.
 
-std::optional<QString> readText(value json)
+std::optional<QString> readText(value json, int depth)
 {
     if (json.type() == json_type::string)
         return textFromUtf8(json.get_string().value());
-    skip(json, fieldDepth);
+    skip(json, depth);
     return std::nullopt;
 }
 
 /// A UUID in the textual form of RFC 4122 and nothing else: QUuid takes braces and trailing text.
 std::optional<QUuid> readUuid(value json)
 {
-    const auto text = readText(json);
+    const auto text = readText(json, postFieldDepth);
     constexpr qsizetype length = 36;
     if (!text || text->size() != length)
         return std::nullopt;
@@ -126,13 +141,11 @@ std::optional<QUuid> readUuid(value json)
 std::optional<Date> readDate(value json)
 {
     if (json.type() != json_type::number) {
-        skip(json, fieldDepth);
+        skip(json, postFieldDepth);
         return std::nullopt;
     }
-    checkNumber(json);
-    // A number too small for a double is its nearest one, 0; one too large has none.
-    double seconds = 0;
-    if (json.get_double().get(seconds) != simdjson::SUCCESS)
+    const double seconds = nearestDouble(numberText(json));
+    if (!std::isfinite(seconds))
         return std::nullopt;
     return Date(seconds);
 }
@@ -147,17 +160,17 @@ BlogPost readPost(object json)
         if (key == "id")
             id = readUuid(field.value());
         else if (key == "title")
-            title = readText(field.value());
+            title = readText(field.value(), postFieldDepth);
         else if (key == "content")
-            content = readText(field.value());
+            content = readText(field.value(), postFieldDepth);
         else if (key == "date")
             date = readDate(field.value());
         else if (key == "description")
-            description = readText(field.value());
+            description = readText(field.value(), postFieldDepth);
         else if (key == "permalink")
-            permalink = readText(field.value());
+            permalink = readText(field.value(), postFieldDepth);
         else
-            skip(field.value(), fieldDepth);
+            skip(field.value(), postFieldDepth);
     }
     if (!id || !title || !content || !date || !description || !permalink)
         failDecoding(simdjson::NO_SUCH_FIELD);
@@ -175,13 +188,13 @@ RSSSettings readSettings(object json)
     for (auto field : json) {
         const std::string_view key = field.unescaped_key();
         if (key == "title")
-            title = readText(field.value());
+            title = readText(field.value(), settingsFieldDepth);
         else if (key == "link")
-            link = readText(field.value());
+            link = readText(field.value(), settingsFieldDepth);
         else if (key == "description")
-            description = readText(field.value());
+            description = readText(field.value(), settingsFieldDepth);
         else
-            skip(field.value(), fieldDepth - 1);
+            skip(field.value(), settingsFieldDepth);
     }
     if (!title || !link || !description)
         failDecoding(simdjson::NO_SUCH_FIELD);
@@ -201,9 +214,9 @@ auto decode(QByteArray json, Read read)
         start = byteOrderMark.size();
     try {
         simdjson::ondemand::parser parser;
-        simdjson::ondemand::document document = parser.iterate(
-            json.constData() + start, std::size_t(json.size()) - start,
-            std::size_t(json.capacity()) - start);
+        simdjson::ondemand::document document =
+            parser.iterate(json.constData() + start, std::size_t(json.size()) - start,
+                           std::size_t(json.capacity()) - start);
         auto records = read(document);
         if (document.current_location().error() != simdjson::OUT_OF_BOUNDS)
             return std::nullopt;
