@@ -6,9 +6,10 @@
 set(TAVLO_TEST_LAUNCHER "${PROJECT_SOURCE_DIR}/tests/isolated")
 
 # tavlo_add_test(<name> <source>...)
-# A GoogleTest program for code that needs no display.
+# A GoogleTest program for code that needs no display. One that hangs, on a pipe say, fails.
 function(tavlo_add_test name)
     add_executable(${name} ${ARGN})
     target_link_libraries(${name} PRIVATE tavlo_test_support)
     add_test(NAME ${name} COMMAND "${TAVLO_TEST_LAUNCHER}" $<TARGET_FILE:${name}>)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
