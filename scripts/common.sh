@@ -52,12 +52,15 @@ need() {
     say "Installing ${missing[*]}"
     local log=$root/build/packages.log try
     mkdir -p "${log%/*}"
-    for try in 1 2 3; do
-        # Another program may be updating the lists just now. Old lists may do as well.
+    for try in 1 2 3 4 5; do
+        # Another program may be updating the lists just now; it does not take long. Where there
+        # is no network, the old lists may do.
+        if ((try > 1)); then
+            sleep $((try * 4))
+        fi
         if "${as_root[@]}" apt-get -qq update </dev/null; then
             break
         fi
-        sleep $((try * 5))
     done
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get -qq install --no-install-recommends \
