@@ -1,0 +1,30 @@
+import QtQuick
+import Tavlo
+
+// Two small buttons, one above the other, that step a number up and down with the mouse. The
+// keyboard and assistive tools step the number itself, so the buttons are no stop on their way.
+Item {
+    id: root
+
+    signal stepped(int by)
+
+    implicitWidth: Math.ceil(Theme.bodySize * 1.5)
+    implicitHeight: Math.ceil(Theme.bodySize * 2.4)
+
+    Column {
+        anchors.fill: parent
+
+        DateStepperHalf {
+            width: root.width
+            height: root.height / 2
+            onClicked: root.stepped(1)
+        }
+
+        DateStepperHalf {
+            width: root.width
+            height: root.height / 2
+            rotation: 180
+            onClicked: root.stepped(-1)
+        }
+    }
+}

@@ -1,0 +1,14 @@
+import QtQuick
+import Tavlo
+
+// The short name of a weekday above its column. The days beneath say theirs in full.
+Text {
+    required property string modelData
+
+    text: modelData
+    textFormat: Text.PlainText
+    font.pixelSize: Theme.captionSize
+    horizontalAlignment: Text.AlignHCenter
+    color: Theme.secondaryText
+    Accessible.ignored: true
+}
