@@ -1,0 +1,104 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavlo
+
+// What the program's buttons have in common. A prominent one is filled with the accent.
+T.AbstractButton {
+    id: root
+
+    // The name of the symbol before the text, or none.
+    property string symbol: ""
+    property string help: ""
+    property bool prominent: false
+    // Whether a disabled button turns grey. One that only waits behind a sheet keeps its look.
+    property bool dimWhenDisabled: true
+    // Whether Return and Enter are left to what is around the button.
+    property alias passReturn: keyFilter.passReturn
+
+    readonly property bool dimmed: !root.enabled && root.dimWhenDisabled
+    readonly property color fill: {
+        if (root.dimmed)
+            return Theme.buttonDisabled;
+        if (root.down)
+            return root.prominent ? Theme.accentPressed : Theme.buttonPressed;
+        if (root.hovered)
+            return root.prominent ? Theme.accentHovered : Theme.buttonHovered;
+        return root.prominent ? Theme.accent : Theme.button;
+    }
+    readonly property color ink: {
+        if (root.dimmed)
+            return Theme.disabledText;
+        return root.prominent ? Theme.accentText : Theme.text;
+    }
+
+    implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, implicitBackgroundWidth)
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    verticalPadding: Theme.controlPadding
+    horizontalPadding: 2 * Theme.controlPadding
+    spacing: 7
+    font.pixelSize: Theme.bodySize
+    font.weight: Font.Medium
+    Accessible.role: Accessible.Button
+    Accessible.name: root.text
+    Accessible.description: root.help
+    Accessible.onPressAction: {
+        if (root.enabled && root.visible)
+            root.click();
+    }
+
+    ButtonKeyFilter {
+        id: keyFilter
+
+        button: root
+    }
+
+    contentItem: Item {
+        implicitWidth: row.implicitWidth
+        implicitHeight: row.implicitHeight
+
+        Row {
+            id: row
+
+            anchors.centerIn: parent
+            spacing: root.spacing
+
+            Symbol {
+                id: mark
+
+                visible: root.symbol !== ""
+                name: root.symbol
+                color: root.ink
+                anchors.verticalCenter: parent.verticalCenter
+            }
+
+            Text {
+                width: Math.min(implicitWidth, root.availableWidth - (mark.visible ? mark.width + row.spacing : 0))
+                text: root.text
+                font: root.font
+                color: root.ink
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                anchors.verticalCenter: parent.verticalCenter
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: root.fill
+        border.width: root.prominent && !root.dimmed ? 0 : 1
+        border.color: root.dimmed ? Theme.borderDisabled : Theme.border
+
+        Behavior on color {
+            ColorAnimation {
+                duration: Theme.hoverDuration
+            }
+        }
+
+        FocusRing {
+            visible: root.visualFocus
+            innerRadius: Theme.controlRadius
+        }
+    }
+}

@@ -1,0 +1,18 @@
+import QtQuick
+import Tavlo
+
+// A large button in the accent's colour, with a symbol before its title and help that shows when
+// the pointer rests on it.
+ButtonBase {
+    id: root
+
+    prominent: true
+    verticalPadding: Theme.controlPadding + 2
+    horizontalPadding: 2 * Theme.controlPadding + 1
+
+    HelpTip {
+        target: root
+        pressed: root.down
+        text: root.help
+    }
+}

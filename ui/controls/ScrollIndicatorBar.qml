@@ -1,0 +1,28 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavlo
+
+// A scroll bar that shows while there is something to scroll.
+T.ScrollBar {
+    id: root
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    padding: 3
+    minimumSize: 0.08
+    visible: root.size < 1 && root.policy !== T.ScrollBar.AlwaysOff
+
+    contentItem: Rectangle {
+        implicitWidth: 6
+        implicitHeight: 6
+        radius: 3
+        color: Theme.scrollBar
+        opacity: root.pressed || root.hovered ? 1 : 0.7
+
+        Behavior on opacity {
+            NumberAnimation {
+                duration: Theme.shortDuration
+            }
+        }
+    }
+}
