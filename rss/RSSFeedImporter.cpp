@@ -5,6 +5,7 @@
 #include <simdjson.h>
 
 #include <algorithm>
+#include <cstring>
 #include <string_view>
 
 namespace {
@@ -16,16 +17,28 @@ struct Element
     std::size_t end;
 };
 
+/// The first `tag` at or after `from`. By memmem, which is quick on any text: the search of
+/// std::string_view is twenty times slower on one of nothing but "<".
+std::size_t findTag(std::string_view text, std::string_view tag, std::size_t from)
+{
+    if (text.size() - from < tag.size())
+        return std::string_view::npos;
+    const void *found = memmem(text.data() + from, text.size() - from, tag.data(), tag.size());
+    if (!found)
+        return std::string_view::npos;
+    return std::size_t(static_cast<const char *>(found) - text.data());
+}
+
 /// What stands between the first `startTag` at or after `from` and the first `endTag` behind it.
 std::optional<Element> findElement(std::string_view text, std::string_view startTag,
                                    std::string_view endTag, std::size_t from = 0)
 {
-    const std::size_t start = text.find(startTag, from);
+    const std::size_t start = findTag(text, startTag, from);
     if (start == std::string_view::npos)
         return std::nullopt;
     const std::size_t begin = start + startTag.size();
     // Without an end tag behind this start tag there is none behind a later one either.
-    const std::size_t end = text.find(endTag, begin);
+    const std::size_t end = findTag(text, endTag, begin);
     if (end == std::string_view::npos)
         return std::nullopt;
     return Element{text.substr(begin, end - begin), end + endTag.size()};
