@@ -53,7 +53,11 @@ T.AbstractButton {
     }
 
     contentItem: Item {
-        implicitWidth: row.implicitWidth
+        id: content
+
+        readonly property real markWidth: mark.visible ? mark.width + row.spacing : 0
+
+        implicitWidth: content.markWidth + title.implicitWidth
         implicitHeight: row.implicitHeight
 
         Row {
@@ -72,7 +76,9 @@ T.AbstractButton {
             }
 
             Text {
-                width: Math.min(implicitWidth, root.availableWidth - (mark.visible ? mark.width + row.spacing : 0))
+                id: title
+
+                width: Math.min(implicitWidth, root.availableWidth - content.markWidth)
                 text: root.text
                 font: root.font
                 color: root.ink
