@@ -25,7 +25,7 @@ public:
     QString path() const { return m_directory.path(); }
 
     /// The path of a name in the home directory.
-    QString path(const QString &name) const { return m_directory.filePath(name); }
+    QString path(const QString &name) const { return path() + u'/' + name; }
 
     /// All bytes of a file in the home directory; nothing when there is no such file.
     std::optional<QByteArray> read(const QString &name) const

@@ -1,0 +1,431 @@
+// The reader and the writer against each other, and against another strict reader of JSON.
+#include "model/RecordsJson.h"
+#include "tests/model/JsonSamples.h"
+#include "tests/support/Generators.h"
+#include "tests/support/Posts.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
+
+#include <charconv>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// A parsed value: for a number its text, for a string its UTF-8.
+struct JsonValue
+{
+    enum Type { Other, Number, String, Array, Object };
+
+    Type type = Other;
+    std::string text;
+    std::vector<JsonValue> elements;
+    std::vector<std::pair<std::string, JsonValue>> members;
+};
+
+/// Builds values from what RapidJSON finds. False from a handler is an error of the document.
+class ValueBuilder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, ValueBuilder>
+{
+public:
+    JsonValue root;
+
+    // The names are RapidJSON's.
+    // NOLINTBEGIN(readability-identifier-naming)
+    bool Default() { return add({}); }
+
+    bool RawNumber(const char *text, rapidjson::SizeType length, bool)
+    {
+        return add({JsonValue::Number, {text, length}, {}, {}});
+    }
+
+    bool String(const char *text, rapidjson::SizeType length, bool)
+    {
+        return isText({text, length}) && add({JsonValue::String, {text, length}, {}, {}});
+    }
+
+    bool Key(const char *text, rapidjson::SizeType length, bool)
+    {
+        m_key.assign(text, length);
+        return isText(m_key);
+    }
+
+    bool StartObject() { return open(JsonValue::Object); }
+    bool StartArray() { return open(JsonValue::Array); }
+    bool EndObject(rapidjson::SizeType) { return close(); }
+    bool EndArray(rapidjson::SizeType) { return close(); }
+    // NOLINTEND(readability-identifier-naming)
+
+private:
+    /// RapidJSON lets an escape for the second half of a surrogate pair stand alone.
+    static bool isText(std::string_view text)
+    {
+        return QUtf8StringView(text.data(), qsizetype(text.size())).isValidUtf8();
+    }
+
+    bool add(JsonValue value)
+    {
+        place(std::move(value));
+        return true;
+    }
+
+    bool open(JsonValue::Type type)
+    {
+        constexpr std::size_t deepestNesting = 512;
+        m_path.push_back(&place({type, {}, {}, {}}));
+        return m_path.size() <= deepestNesting;
+    }
+
+    bool close()
+    {
+        m_path.pop_back();
+        return true;
+    }
+
+    /// Puts a value where the document has come to. A container that is open does not move until
+    /// it is closed: only the innermost one grows.
+    JsonValue &place(JsonValue value)
+    {
+        if (m_path.empty())
+            return root = std::move(value);
+        JsonValue &container = *m_path.back();
+        if (container.type == JsonValue::Array)
+            return container.elements.emplace_back(std::move(value));
+        return container.members.emplace_back(m_key, std::move(value)).second;
+    }
+
+    std::vector<JsonValue *> m_path;
+    std::string m_key;
+};
+
+/// What another reader, as strict as the program's, makes of a document.
+struct OtherReading
+{
+    /// Nothing for a document in error.
+    std::optional<JsonValue> document;
+    /// RapidJSON refuses an exponent that no double has, where it is told to keep numbers as
+    /// texts too. Then the rest of the document is not known.
+    bool unknown = false;
+};
+
+OtherReading parse(QByteArray json)
+{
+    using namespace rapidjson;
+    if (json.startsWith("\xEF\xBB\xBF"))
+        json.remove(0, 3);
+    MemoryStream bytes(json.constData(), std::size_t(json.size()));
+    Reader reader;
+    ValueBuilder builder;
+    constexpr unsigned flags =
+        kParseValidateEncodingFlag | kParseNumbersAsStringsFlag | kParseIterativeFlag;
+    const ParseResult result = reader.Parse<flags>(bytes, builder);
+    if (result.Code() == kParseErrorNumberTooBig)
+        return {.document = {}, .unknown = true};
+    // A NUL behind the document looks to RapidJSON like its end.
+    if (result.IsError() || bytes.Tell() != std::size_t(json.size()))
+        return {};
+    return {.document = builder.root};
+}
+
+/// The last value of a key; nothing where it is missing or of another type.
+const JsonValue *member(const JsonValue &object, const char *key, JsonValue::Type type)
+{
+    const JsonValue *found = nullptr;
+    for (const auto &[name, value] : object.members) {
+        if (name == key)
+            found = &value;
+    }
+    return found && found->type == type ? found : nullptr;
+}
+
+std::optional<double> number(const std::string &text)
+{
+    double parsed = 0;
+    const auto status =
+        std::from_chars(text.data(), text.data() + text.size(), parsed).ec; // of any locale
+    return status == std::errc() ? std::optional(parsed) : std::nullopt;
+}
+
+/// The posts of a document as the other reader has it.
+std::optional<BlogPosts> postsOf(const std::optional<JsonValue> &document)
+{
+    if (!document || document->type != JsonValue::Array)
+        return std::nullopt;
+    BlogPosts posts;
+    for (const JsonValue &element : document->elements) {
+        const auto *id = member(element, "id", JsonValue::String);
+        const auto *title = member(element, "title", JsonValue::String);
+        const auto *content = member(element, "content", JsonValue::String);
+        const auto *date = member(element, "date", JsonValue::Number);
+        const auto *description = member(element, "description", JsonValue::String);
+        const auto *permalink = member(element, "permalink", JsonValue::String);
+        if (!id || !title || !content || !date || !description || !permalink)
+            return std::nullopt;
+        // Written out again, the id must be the same but for the case of its letters.
+        const QByteArray idText = QByteArray::fromStdString(id->text);
+        const QUuid uuid = QUuid::fromString(QString::fromLatin1(idText));
+        const auto seconds = number(date->text);
+        if (uuid.toByteArray(QUuid::WithoutBraces) != idText.toLower() || !seconds)
+            return std::nullopt;
+        const auto text = [](const JsonValue *value) {
+            // Behind a letter, a byte-order mark is kept.
+            return QString::fromStdString('|' + value->text).mid(1);
+        };
+        posts.append({.id = uuid,
+                      .title = text(title),
+                      .content = text(content),
+                      .date = Date(*seconds),
+                      .description = text(description),
+                      .permalink = text(permalink)});
+    }
+    return posts;
+}
+
+bool readersAgree(const QByteArray &json)
+{
+    const OtherReading other = parse(json);
+    if (other.unknown)
+        return true;
+    const auto ours = decodePosts(json);
+    const auto others = postsOf(other.document);
+    return ours.has_value() == others.has_value() && (!ours || identical(*ours, *others));
+}
+
+/// Any JSON value, in a text with white space here and there.
+rc::Gen<std::string> anyJson(int depth)
+{
+    using namespace rc;
+    static const std::vector<std::string> scalars{"null",
+                                                  "true",
+                                                  "false",
+                                                  "0",
+                                                  "-0",
+                                                  "-1.5e-7",
+                                                  "1e-400",
+                                                  "12345678901234567890123",
+                                                  R"("")",
+                                                  R"("a")",
+                                                  R"("\"\\\/\b\f\n\r\t")",
+                                                  R"("\u0000\ud83d\ude00")",
+                                                  "\"\xEF\xBB\xBF\""};
+    if (depth == 0)
+        return gen::elementOf(scalars);
+    const auto blank = gen::elementOf(std::vector<std::string>{"", "", "", " ", "\n\t", "\r "});
+    const auto list = [blank, depth](const char *opening, const char *closing, bool named) {
+        const auto element = gen::apply(
+            [named](const std::string &before, const std::string &key, const std::string &value,
+                    const std::string &after) {
+                return before + (named ? '"' + key + "\":" : "") + value + after;
+            },
+            blank, gen::elementOf(std::vector<std::string>{"", "id", "title", "date", "k"}),
+            anyJson(depth - 1), blank);
+        return gen::map(gen::resize(4, gen::container<std::vector<std::string>>(element)),
+                        [=](const std::vector<std::string> &elements) {
+                            std::string text = opening;
+                            for (const std::string &one : elements)
+                                text += (text.size() > 1 ? "," : "") + one;
+                            return text + closing;
+                        });
+    };
+    return gen::weightedOneOf<std::string>(
+        {{2, gen::elementOf(scalars)}, {1, list("[", "]", false)}, {1, list("{", "}", true)}});
+}
+
+/// A posts document that is good but for what its fields, some of them strangers, repeated or
+/// missing, hold.
+rc::Gen<QByteArray> anyPostsDocument()
+{
+    using namespace rc;
+    const auto field = gen::pair(
+        gen::elementOf(std::vector<QByteArray>{"id", "title", "content", "date", "description",
+                                               "permalink", "author", "titl\\u0065", ""}),
+        gen::map(anyJson(3),
+                 [](const std::string &json) { return QByteArray::fromStdString(json); }));
+    const auto post = gen::apply(
+        [](JsonFields before, const JsonFields &after, int missing) {
+            const JsonFields good = goodPostFields();
+            for (int index = 0; index < int(good.size()); ++index) {
+                if (index != missing)
+                    before.push_back(good[std::size_t(index)]);
+            }
+            before.insert(before.end(), after.begin(), after.end());
+            return jsonObject(before);
+        },
+        gen::resize(3, gen::container<JsonFields>(field)),
+        gen::resize(1, gen::container<JsonFields>(field)), gen::inRange(0, 60));
+    return gen::map(gen::resize(3, gen::container<std::vector<QByteArray>>(post)),
+                    [](const std::vector<QByteArray> &posts) {
+                        QByteArray json = "[";
+                        for (const QByteArray &one : posts)
+                            json += (json.size() > 1 ? "," : "") + one;
+                        return json + ']';
+                    });
+}
+
+/// One small damage to a document.
+struct Damage
+{
+    int kind;
+    double place;
+    QByteArray piece;
+};
+
+rc::Gen<Damage> anyDamage()
+{
+    using namespace rc;
+    const auto byte = gen::map(gen::resize(kNominalSize, gen::arbitrary<std::uint8_t>()),
+                               [](std::uint8_t value) { return QByteArray(1, char(value)); });
+    const auto token = gen::elementOf(std::vector<QByteArray>{"[",
+                                                              "]",
+                                                              "{",
+                                                              "}",
+                                                              ",",
+                                                              ":",
+                                                              "\"",
+                                                              "\\",
+                                                              "/",
+                                                              "0",
+                                                              "-",
+                                                              ".",
+                                                              "e",
+                                                              "1e999",
+                                                              "null",
+                                                              "true",
+                                                              " ",
+                                                              "\n",
+                                                              "\f",
+                                                              QByteArray(1, '\0'),
+                                                              "\\u0000",
+                                                              "\\ud83d",
+                                                              "\\ude00",
+                                                              "\xEF\xBB\xBF",
+                                                              "\xC3",
+                                                              "\xA9",
+                                                              "\xED\xA0\x80",
+                                                              "\xF4\x90\x80\x80",
+                                                              "[]",
+                                                              "{}",
+                                                              "\"id\":",
+                                                              ",\"date\":1"});
+    return gen::apply(
+        [](int kind, int place, const QByteArray &piece) {
+            return Damage{kind, place / 10'000.0, piece};
+        },
+        gen::inRange(0, 4), gen::inRange(0, 10'000), gen::oneOf(byte, token));
+}
+
+QByteArray damaged(QByteArray json, const Damage &damage)
+{
+    const auto position = qsizetype(damage.place * double(json.size() + 1));
+    switch (damage.kind) {
+    case 0:
+        return json.insert(position, damage.piece);
+    case 1:
+        return json.replace(position, damage.piece.size(), damage.piece);
+    case 2:
+        return json.remove(position, damage.piece.size());
+    default:
+        return json.left(position);
+    }
+}
+
+void showValue(const Damage &damage, std::ostream &out)
+{
+    out << damage.kind << " at " << damage.place << ' ' << damage.piece.toHex().data();
+}
+
+} // namespace
+
+RC_GTEST_PROP(RecordsJson, posts_areReadAsTheyWereWritten_toTheBit, (const BlogPosts &posts))
+{
+    const auto json = encodePosts(posts);
+    RC_ASSERT(json.has_value());
+    const auto read = decodePosts(*json);
+    RC_ASSERT(read.has_value());
+    RC_ASSERT(identical(*read, posts));
+    RC_ASSERT(encodePosts(*read) == json);
+}
+
+RC_GTEST_PROP(RecordsJson, settings_areReadAsTheyWereWritten, (const RSSSettings &settings))
+{
+    const auto read = decodeSettings(encodeSettings(settings));
+    RC_ASSERT(read.has_value());
+    RC_ASSERT(read->title == settings.title);
+    RC_ASSERT(read->link == settings.link);
+    RC_ASSERT(read->description == settings.description);
+}
+
+RC_GTEST_PROP(RecordsJson, dates_areReadAsTheyWereWritten_toTheBit, ())
+{
+    BlogPosts posts;
+    for (const Date date : *rc::gen::container<std::vector<Date>>(500, rc::gen::arbitrary<Date>()))
+        posts.append(postTitled(QString(), date));
+    const auto read = decodePosts(encodePosts(posts).value());
+    RC_ASSERT(read.has_value());
+    RC_ASSERT(identical(*read, posts));
+}
+
+RC_GTEST_PROP(RecordsJson, whatIsWritten_isReadByAnotherReader, (const BlogPosts &posts))
+{
+    const auto others = postsOf(parse(encodePosts(posts).value()).document);
+    RC_ASSERT(others.has_value());
+    RC_ASSERT(identical(*others, posts));
+}
+
+RC_GTEST_PROP(RecordsJson, whatIsWritten_isCompactAsciiOrItself, (const BlogPosts &posts))
+{
+    const QByteArray json = encodePosts(posts).value();
+    RC_ASSERT(QUtf8StringView(json).isValidUtf8());
+    bool afterBackslash = false;
+    for (const char byte : json) {
+        RC_ASSERT(std::uint8_t(byte) >= 0x20U);
+        RC_ASSERT(byte != '/' || afterBackslash);
+        afterBackslash = byte == '\\' && !afterBackslash;
+    }
+}
+
+RC_GTEST_PROP(RecordsJson, anyDocument_isReadAsAnotherReaderDoes, ())
+{
+    const auto documents =
+        *rc::gen::resize(100, rc::gen::container<std::vector<QByteArray>>(20, anyPostsDocument()));
+    for (const QByteArray &json : documents) {
+        if (!readersAgree(json))
+            RC_FAIL(json.toStdString());
+    }
+}
+
+RC_GTEST_PROP(RecordsJson, aDamagedDocument_isReadAsAnotherReaderDoes, (const BlogPosts &posts))
+{
+    const QByteArray good = encodePosts(posts.mid(0, 2)).value();
+    const QByteArray odd = *anyPostsDocument();
+    const auto damages = *rc::gen::container<std::vector<Damage>>(100, anyDamage());
+    for (const QByteArray &document : {good, odd}) {
+        QByteArray worse = document;
+        for (const Damage &damage : damages) {
+            const QByteArray json = damaged(document, damage);
+            if (!readersAgree(json))
+                RC_FAIL(json.toStdString());
+            // Two at once now and then.
+            worse = damaged(json, damages.front());
+            if (!readersAgree(worse))
+                RC_FAIL(worse.toStdString());
+        }
+    }
+}
+
+TEST(RecordsJson, everySingleByteChange_isReadAsAnotherReaderDoes)
+{
+    const QByteArray good = postsDocument(
+        followedBy(goodPostFields(), "more", R"([{"a":[-1.5e3,null]},true,"\u00e9"])"));
+    ASSERT_TRUE(decodePosts(good));
+    for (qsizetype position = 0; position < good.size(); ++position) {
+        for (int byte = 0; byte < 256; ++byte) {
+            QByteArray changed = good;
+            changed[position] = char(byte);
+            ASSERT_TRUE(readersAgree(changed)) << changed.data();
+            ASSERT_TRUE(readersAgree(QByteArray(good).insert(position, char(byte))));
+        }
+    }
+}
