@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import QtQuick.Templates as T
 import Tavlo
 
@@ -25,8 +24,8 @@ T.Popup {
             root.close();
     }
 
-    parent: Overlay.overlay
-    anchors.centerIn: Overlay.overlay
+    parent: T.Overlay.overlay
+    anchors.centerIn: T.Overlay.overlay
     modal: true
     focus: true
     closePolicy: T.Popup.NoAutoClose
