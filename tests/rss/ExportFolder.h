@@ -6,7 +6,6 @@
 #include "tests/support/TemporaryHome.h"
 
 #include <gtest/gtest.h>
-
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -57,9 +56,8 @@ protected:
     /// Everything in the folder, hidden names too.
     QStringList names() const
     {
-        return QDir(m_folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System
-                                            | QDir::NoDotAndDotDot,
-                                        QDir::Name);
+        return QDir(m_folder).entryList(
+            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
     }
 
     /// What the system knows of a file itself, of a link where it is one.

@@ -42,12 +42,12 @@ TEST_P(ExportPaths, areNamesOfFilesAsTyped)
     EXPECT_EQ(names(), after);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Relative, ExportPaths,
-    testing::Values(TypedPath{"feed.xml"}, TypedPath{"./feed.xml"}, TypedPath{"feed"},
-                    TypedPath{"a/b/feed.xml", "a/b"}, TypedPath{"a//feed.xml", "a"},
-                    TypedPath{"a/../a/feed.xml", "a"}, TypedPath{".hidden"}, TypedPath{"-"},
-                    TypedPath{"--help"}, TypedPath{"..."}));
+INSTANTIATE_TEST_SUITE_P(Relative, ExportPaths,
+                         testing::Values(TypedPath{"feed.xml"}, TypedPath{"./feed.xml"},
+                                         TypedPath{"feed"}, TypedPath{"a/b/feed.xml", "a/b"},
+                                         TypedPath{"a//feed.xml", "a"},
+                                         TypedPath{"a/../a/feed.xml", "a"}, TypedPath{".hidden"},
+                                         TypedPath{"-"}, TypedPath{"--help"}, TypedPath{"..."}));
 
 INSTANTIATE_TEST_SUITE_P(
     LikeAddresses, ExportPaths,
@@ -57,25 +57,27 @@ INSTANTIATE_TEST_SUITE_P(
                     TypedPath{"https://example.com/feed.xml", "https:/example.com"},
                     TypedPath{"user@host:feed.xml"}));
 
-INSTANTIATE_TEST_SUITE_P(
-    LikeNamesOfOtherSystems, ExportPaths,
-    testing::Values(TypedPath{"a:b"}, TypedPath{"c:/feed.xml", "c:"}, TypedPath{":feed.xml"},
-                    TypedPath{":/feed.xml", ":"}, TypedPath{"qrc:/feed.xml", "qrc:"},
-                    TypedPath{"C:\\feed.xml"}, TypedPath{"\\\\host\\feed.xml"}, TypedPath{"nul"}));
+INSTANTIATE_TEST_SUITE_P(LikeNamesOfOtherSystems, ExportPaths,
+                         testing::Values(TypedPath{"a:b"}, TypedPath{"c:/feed.xml", "c:"},
+                                         TypedPath{":feed.xml"}, TypedPath{":/feed.xml", ":"},
+                                         TypedPath{"qrc:/feed.xml", "qrc:"},
+                                         TypedPath{"C:\\feed.xml"}, TypedPath{"\\\\host\\feed.xml"},
+                                         TypedPath{"nul"}));
 
-INSTANTIATE_TEST_SUITE_P(
-    LikeShellWords, ExportPaths,
-    testing::Values(TypedPath{"~/feed.xml", "~"}, TypedPath{"~root"}, TypedPath{"$HOME"},
-                    TypedPath{"*.xml"}, TypedPath{"[a]{b,c}"}, TypedPath{"'quoted'"},
-                    TypedPath{"\"quoted\""}, TypedPath{"`a` | b > c"}));
+INSTANTIATE_TEST_SUITE_P(LikeShellWords, ExportPaths,
+                         testing::Values(TypedPath{"~/feed.xml", "~"}, TypedPath{"~root"},
+                                         TypedPath{"$HOME"}, TypedPath{"*.xml"},
+                                         TypedPath{"[a]{b,c}"}, TypedPath{"'quoted'"},
+                                         TypedPath{"\"quoted\""}, TypedPath{"`a` | b > c"}));
 
-INSTANTIATE_TEST_SUITE_P(
-    OddCharacters, ExportPaths,
-    testing::Values(TypedPath{"  leading"}, TypedPath{"trailing  "}, TypedPath{" "},
-                    TypedPath{" /feed.xml", " "}, TypedPath{"two\nlines\t.xml"},
-                    TypedPath{"\x01\x7f"}, TypedPath{"\u00e9 composed"}, TypedPath{"e\u0301 not"},
-                    TypedPath{"\u65e5\u672c\u8a9e.xml"}, TypedPath{"\U0001F600"},
-                    TypedPath{"\ufeffmark"}, TypedPath{"XXXXXX.xml"}, TypedPath{"feed.XXXXXX"}));
+INSTANTIATE_TEST_SUITE_P(OddCharacters, ExportPaths,
+                         testing::Values(TypedPath{"  leading"}, TypedPath{"trailing  "},
+                                         TypedPath{" "}, TypedPath{" /feed.xml", " "},
+                                         TypedPath{"two\nlines\t.xml"}, TypedPath{"\x01\x7f"},
+                                         TypedPath{"\u00e9 composed"}, TypedPath{"e\u0301 not"},
+                                         TypedPath{"\u65e5\u672c\u8a9e.xml"},
+                                         TypedPath{"\U0001F600"}, TypedPath{"\ufeffmark"},
+                                         TypedPath{"XXXXXX.xml"}, TypedPath{"feed.XXXXXX"}));
 
 class ExportPath : public ExportFolder
 {

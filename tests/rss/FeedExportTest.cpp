@@ -8,9 +8,8 @@
 #include "tests/support/Posts.h"
 #include "tests/support/Printers.h"
 
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -50,9 +49,12 @@ TEST_F(FeedExport, holdsTheFeedInUtf8WithoutAByteOrderMark)
     store->addPost(postTitled(u"\ufeffHello"_s));
     store->exportRSS(path("feed.xml"));
     EXPECT_EQ(bytesOf("feed.xml"), store->generateRSSFeed());
-    EXPECT_TRUE(bytesOf("feed.xml").startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<rss "));
-    EXPECT_TRUE(bytesOf("feed.xml").contains(
-        "    <title>\xC3\x84rger & \xE6\x97\xA5\xE6\x9C\xAC \xF0\x9F\x98\x80</title>\n"));
+    EXPECT_TRUE(
+        bytesOf("feed.xml").startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<rss "));
+    EXPECT_TRUE(
+        bytesOf("feed.xml")
+            .contains(
+                "    <title>\xC3\x84rger & \xE6\x97\xA5\xE6\x9C\xAC \xF0\x9F\x98\x80</title>\n"));
     EXPECT_TRUE(bytesOf("feed.xml").endsWith("\n  </channel>\n</rss>"));
     EXPECT_EQ(names(), (QStringList{u"feed.xml"_s}));
 }

@@ -151,8 +151,7 @@ TEST(FeedImport, anElement_doesNotReachBeyondItsItem)
 
 TEST(FeedImport, anItemThatNeverEnds_isNoneAndNothingFollowsIt)
 {
-    EXPECT_EQ(titlesOf("<item><title>A</title></item><item><title>B</title>"),
-              QStringList{u"A"_s});
+    EXPECT_EQ(titlesOf("<item><title>A</title></item><item><title>B</title>"), QStringList{u"A"_s});
     EXPECT_EQ(titlesOf("<item><title>A</title><item><title>B</title>"), QStringList());
 }
 
@@ -175,10 +174,10 @@ TEST(FeedImport, otherSpellings_areNotItems)
 
 TEST(FeedImport, otherSpellings_areNotElements)
 {
-    for (const char *title :
-         {"<Title>A</Title>", "<TITLE>A</TITLE>", "<title >A</title>", "<title type=\"html\">A</title>",
-          "<media:title>A</media:title>", "<title/>", "<title>A</Title>", "<title>A< /title>",
-          "<title>A</title >", "<titles>A</titles>", "<link href=\"A\"/>"})
+    for (const char *title : {"<Title>A</Title>", "<TITLE>A</TITLE>", "<title >A</title>",
+                              "<title type=\"html\">A</title>", "<media:title>A</media:title>",
+                              "<title/>", "<title>A</Title>", "<title>A< /title>",
+                              "<title>A</title >", "<titles>A</titles>", "<link href=\"A\"/>"})
         EXPECT_EQ(titleOf(title), QString()) << title;
     EXPECT_EQ(titleOf("<title lang=\"en\">A</title><title>B</title>"), u"B"_s);
     EXPECT_EQ(titleOf("<title/><title>B</title>"), u"B"_s);
@@ -208,9 +207,11 @@ TEST(FeedImport, everyCharacter_isKept)
     EXPECT_EQ(titleOf("<title>\xEF\xBB\xBFmark\xEF\xBB\xBF</title>"), u"\ufeffmark\ufeff"_s);
     EXPECT_EQ(titleOf("<title>\xEF\xBB\xBF</title>"), u"\ufeff"_s);
     EXPECT_EQ(titleOf("<title>\xEF\xBB\xBF\xEF\xBB\xBF</title>"), u"\ufeff\ufeff"_s);
-    EXPECT_EQ(titleOf("<title>\xEF\xBF\xBE\xEF\xBF\xBF\xEF\xB7\x90</title>"), u"\ufffe\uffff\ufdd0"_s);
+    EXPECT_EQ(titleOf("<title>\xEF\xBF\xBE\xEF\xBF\xBF\xEF\xB7\x90</title>"),
+              u"\ufffe\uffff\ufdd0"_s);
     EXPECT_EQ(titleOf("<title>e\xCC\x81 \xC3\xA9</title>"), u"e\u0301 \u00e9"_s);
-    EXPECT_EQ(titleOf("<title>\xF0\x9F\x98\x80\xF4\x8F\xBF\xBF</title>"), u"\U0001F600\U0010FFFF"_s);
+    EXPECT_EQ(titleOf("<title>\xF0\x9F\x98\x80\xF4\x8F\xBF\xBF</title>"),
+              u"\U0001F600\U0010FFFF"_s);
     EXPECT_EQ(titleOf("<title>\x01\x7F\xC2\x80</title>"), u"\u0001\u007f\u0080"_s);
 }
 
@@ -333,12 +334,12 @@ INSTANTIATE_TEST_SUITE_P(OtherEncodings, FeedImportOfBadUtf8,
 
 TEST(FeedImport, goodUtf8_isTakenWhereverItStands)
 {
-    for (const auto good : {"\xC2\x80"sv, "\xDF\xBF"sv, "\xE0\xA0\x80"sv, "\xED\x9F\xBF"sv,
-                            "\xEE\x80\x80"sv, "\xEF\xBF\xBF"sv, "\xF0\x90\x80\x80"sv,
-                            "\xF4\x8F\xBF\xBF"sv}) {
+    for (const auto good :
+         {"\xC2\x80"sv, "\xDF\xBF"sv, "\xE0\xA0\x80"sv, "\xED\x9F\xBF"sv, "\xEE\x80\x80"sv,
+          "\xEF\xBF\xBF"sv, "\xF0\x90\x80\x80"sv, "\xF4\x8F\xBF\xBF"sv}) {
         for (std::size_t ahead = 0; ahead < 150; ++ahead) {
-            const std::string feed = std::string(ahead, 'a') + "<item><title>" + std::string(good)
-                + "</title></item>";
+            const std::string feed =
+                std::string(ahead, 'a') + "<item><title>" + std::string(good) + "</title></item>";
             const BlogPosts posts = postsOf(feed);
             ASSERT_EQ(posts.size(), 1);
             EXPECT_EQ(posts[0].title.toUtf8(), QByteArray(good.data(), qsizetype(good.size())));

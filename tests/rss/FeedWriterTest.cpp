@@ -40,7 +40,8 @@ TEST(FeedWriter, aBlogOfTwoPosts_isLaidOutToTheByte)
          .description = {},
          .permalink = {}},
     };
-    const RSSSettings fieldNotes{u"Field Notes"_s, u"/notes"_s, u"Short posts about small things"_s};
+    const RSSSettings fieldNotes{u"Field Notes"_s, u"/notes"_s,
+                                 u"Short posts about small things"_s};
     EXPECT_EQ(feedOfPosts(fieldNotes, posts, neutralRegion),
               R"(<?xml version="1.0" encoding="UTF-8" ?>
 <rss version="2.0">
@@ -66,15 +67,16 @@ TEST(FeedWriter, aBlogOfTwoPosts_isLaidOutToTheByte)
 
 TEST(FeedWriter, anEmptyBlog_leavesALineOfFourBlanks)
 {
-    EXPECT_EQ(feedOf({}), "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n"
-                          "<rss version=\"2.0\">\n"
-                          "  <channel>\n"
-                          "    <title>T</title>\n"
-                          "    <link>L</link>\n"
-                          "    <description>D</description>\n"
-                          "    \n"
-                          "  </channel>\n"
-                          "</rss>");
+    EXPECT_EQ(feedOf({}),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n"
+              "<rss version=\"2.0\">\n"
+              "  <channel>\n"
+              "    <title>T</title>\n"
+              "    <link>L</link>\n"
+              "    <description>D</description>\n"
+              "    \n"
+              "  </channel>\n"
+              "</rss>");
 }
 
 TEST(FeedWriter, aSinglePost_hasNoLineFeedOfItsOwnAroundIt)
@@ -121,16 +123,14 @@ INSTANTIATE_TEST_SUITE_P(
         Escaping{u"\u00e9<\u6f22&\U0001F600>\u0661"_s,
                  "\xC3\xA9&lt;\xE6\xBC\xA2&amp;\xF0\x9F\x98\x80&gt;\xD9\xA1"},
         // Neither full-width forms nor a combined "not less than" are the characters themselves.
-        Escaping{u"\uff1c\uff06\uff1e\u226e"_s,
-                 "\xEF\xBC\x9C\xEF\xBC\x86\xEF\xBC\x9E\xE2\x89\xAE"},
+        Escaping{u"\uff1c\uff06\uff1e\u226e"_s, "\xEF\xBC\x9C\xEF\xBC\x86\xEF\xBC\x9E\xE2\x89\xAE"},
         Escaping{u"<\u0338"_s, "&lt;\xCC\xB8"}));
 
 TEST(FeedWriter, aDescriptionOfManyAmpersands_isEscapedToItsEnd)
 {
     const int count = 100'000;
-    const QByteArray written =
-        between(feedOf({describedPost(QString(count, u'&'))}), "</pubDate>\n  <description>",
-                "</description>");
+    const QByteArray written = between(feedOf({describedPost(QString(count, u'&'))}),
+                                       "</pubDate>\n  <description>", "</description>");
     EXPECT_EQ(written, QByteArray("&amp;").repeated(count));
 }
 
@@ -143,8 +143,8 @@ TEST(FeedWriter, everyOtherText_standsAsItIs)
     const QByteArray feed = feedOfPosts({raw, raw, raw}, {post}, neutralRegion);
     EXPECT_TRUE(feed.contains("    <title>" + bytes + "</title>\n    <link>" + bytes
                               + "</link>\n    <description>" + bytes + "</description>\n"));
-    EXPECT_TRUE(feed.contains("  <title>" + bytes + "</title>\n  <link>" + bytes
-                              + "</link>\n  <pubDate>"));
+    EXPECT_TRUE(
+        feed.contains("  <title>" + bytes + "</title>\n  <link>" + bytes + "</link>\n  <pubDate>"));
 }
 
 TEST(FeedWriter, anEmptyPermalink_isAnEmptyElement)
@@ -158,8 +158,10 @@ TEST(FeedWriter, characters_areNeitherNormalisedNorDropped)
 {
     // A byte-order mark, a composed and a decomposed letter, NUL, a noncharacter, line separators.
     const QString text = u"\ufeff\u00e9e\u0301"_s + QChar::Null + u"\uffff\u2028\u0085\ufeff"_s;
-    const QByteArray bytes("\xEF\xBB\xBF\xC3\xA9" "e\xCC\x81\0\xEF\xBF\xBF\xE2\x80\xA8\xC2\x85"
-                           "\xEF\xBB\xBF", 20);
+    const QByteArray bytes("\xEF\xBB\xBF\xC3\xA9"
+                           "e\xCC\x81\0\xEF\xBF\xBF\xE2\x80\xA8\xC2\x85"
+                           "\xEF\xBB\xBF",
+                           20);
     BlogPost post = postTitled(text);
     post.permalink = post.description = text;
     const QByteArray feed = feedOfPosts({text, text, text}, {post}, neutralRegion);
@@ -178,17 +180,17 @@ TEST(FeedWriter, aLoneSurrogate_becomesAReplacementCharacter)
     BlogPost post = postTitled(low);
     post.description = high;
     const QByteArray feed = feedOf({post});
-    EXPECT_TRUE(feed.contains("<title>\xEF\xBF\xBD" "b\xEF\xBF\xBD</title>"));
+    EXPECT_TRUE(feed.contains("<title>\xEF\xBF\xBD"
+                              "b\xEF\xBF\xBD</title>"));
     EXPECT_TRUE(feed.contains("<description>a\xEF\xBF\xBD&lt;</description>"));
 }
 
 TEST(FeedWriter, posts_standInListOrderWhateverTheirDates)
 {
     const Date same = instant("2026-01-05T09:03:07Z");
-    const QByteArray feed = feedOf({postTitled(u"second"_s, same),
-                                    postTitled(u"newest"_s, instant("2030-01-01T00:00:00Z")),
-                                    postTitled(u"first"_s, same),
-                                    postTitled(u"oldest"_s, instant("1990-01-01T00:00:00Z"))});
+    const QByteArray feed = feedOf(
+        {postTitled(u"second"_s, same), postTitled(u"newest"_s, instant("2030-01-01T00:00:00Z")),
+         postTitled(u"first"_s, same), postTitled(u"oldest"_s, instant("1990-01-01T00:00:00Z"))});
     const qsizetype second = feed.indexOf("second");
     const qsizetype newest = feed.indexOf("newest");
     const qsizetype first = feed.indexOf("first");

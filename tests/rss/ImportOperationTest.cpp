@@ -13,7 +13,6 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
-
 #include <stdio_ext.h>
 #include <sys/stat.h>
 #include <unistd.h>
