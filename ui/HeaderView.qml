@@ -70,6 +70,7 @@ Rectangle {
                 id: newPost
 
                 objectName: "newPostButton"
+                dimWhenDisabled: false
                 symbol: "plus"
                 text: qsTr("New Post")
                 help: qsTr("Create a new blog post")
@@ -80,6 +81,7 @@ Rectangle {
                 id: exportFeed
 
                 objectName: "exportButton"
+                dimWhenDisabled: false
                 symbol: "square.and.arrow.down"
                 text: qsTr("Export RSS")
                 help: qsTr("Export RSS feed")
@@ -90,6 +92,7 @@ Rectangle {
                 id: importFeed
 
                 objectName: "importButton"
+                dimWhenDisabled: false
                 text: qsTr("Import RSS")
                 help: qsTr("Import existing RSS feeds")
                 onClicked: root.importRequested()
@@ -99,6 +102,7 @@ Rectangle {
                 id: settings
 
                 objectName: "settingsButton"
+                dimWhenDisabled: false
                 symbol: "gearshape"
                 text: qsTr("Blog Settings")
                 help: qsTr("Edit RSS feed settings")

@@ -26,6 +26,7 @@ T.Popup {
 
     parent: T.Overlay.overlay
     anchors.centerIn: T.Overlay.overlay
+    implicitHeight: implicitContentHeight
     modal: true
     focus: true
     closePolicy: T.Popup.NoAutoClose
