@@ -263,8 +263,12 @@ QStringList rotatedWeek(const icu::UnicodeString *names, int firstDay)
 {
     // ICU counts the days of a week from 1, Sunday.
     QStringList week;
-    for (int i = 0; i < 7; ++i)
+    for (int i = 0; i < 7; ++i) {
         week += toQString(names[(firstDay - 1 + i) % 7 + 1]);
+        // The full stop of an abbreviation says nothing at the head of a column.
+        if (week.last().endsWith(u'.'))
+            week.last().chop(1);
+    }
     return week;
 }
 
@@ -359,15 +363,6 @@ QStringList DateWords::weekdays() const
         return names;
     return rotatedWeek(m_locale->symbols.getWeekdays(count, Symbols::STANDALONE, Symbols::NARROW),
                        firstDay);
-}
-
-QStringList DateWords::weekdayNames() const
-{
-    int count = 0;
-    UErrorCode status = U_ZERO_ERROR;
-    return rotatedWeek(m_locale->symbols.getWeekdays(count, icu::DateFormatSymbols::STANDALONE,
-                                                     icu::DateFormatSymbols::WIDE),
-                       m_locale->calendar->getFirstDayOfWeek(status));
 }
 
 int DateWords::dayOfWeek(const CalendarDay &day) const

@@ -61,8 +61,6 @@ public:
     QString fullDate(const CalendarDay &day) const;
     /// The short names of the seven days of a week, from the one with which it begins.
     QStringList weekdays() const;
-    /// Likewise in full.
-    QStringList weekdayNames() const;
     /// The number of days from the beginning of the week to a day.
     int dayOfWeek(const CalendarDay &day) const;
 

@@ -17,9 +17,8 @@ class MonthDays : public QAbstractListModel
     QML_UNCREATABLE("A PostDate has the days to pick from.")
     /// The month's name and the year.
     Q_PROPERTY(QString title READ title NOTIFY moved)
-    /// The seven days of a week, from the one with which the locale begins it: short, and in full.
+    /// The short names of the seven weekdays, from the one with which the locale begins the week.
     Q_PROPERTY(QStringList weekdays READ weekdays CONSTANT)
-    Q_PROPERTY(QStringList weekdayNames READ weekdayNames CONSTANT)
     /// The row of the day that the keyboard is at.
     Q_PROPERTY(int currentRow READ currentRow NOTIFY moved)
 
@@ -42,7 +41,6 @@ public:
 
     QString title() const { return m_words->monthAndYear(m_current); }
     QStringList weekdays() const { return m_words->weekdays(); }
-    QStringList weekdayNames() const { return m_words->weekdayNames(); }
     int currentRow() const { return static_cast<int>(m_current.number() - m_firstNumber); }
     const CalendarDay &current() const { return m_current; }
 

@@ -1,7 +1,5 @@
 #include "ui/PostDate.h"
 
-#include "model/DateRegion.h"
-
 #include <algorithm>
 #include <bit>
 
@@ -17,9 +15,14 @@ bool isTimeOfDay(DateField field)
 } // namespace
 
 PostDate::PostDate(QObject *parent)
+    : PostDate(DateRegion::current(), parent)
+{
+}
+
+PostDate::PostDate(const DateRegion &region, QObject *parent)
     : QObject(parent)
-    , m_words(DateRegion::current().locale)
-    , m_clock(DateRegion::current().timeZone)
+    , m_words(region.locale)
+    , m_clock(region.timeZone)
     , m_month(new MonthDays(&m_words, this))
     , m_dayParts(makeParts(m_words.dateFields()))
     , m_timeParts(makeParts(m_words.timeFields()))

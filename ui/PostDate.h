@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Date.h"
+#include "model/DateRegion.h"
 #include "ui/DatePart.h"
 #include "ui/DateWords.h"
 #include "ui/LocalTime.h"
@@ -43,7 +44,9 @@ class PostDate : public QObject
     Q_PROPERTY(MonthDays *month READ month CONSTANT)
 
 public:
+    /// In the user's own region.
     explicit PostDate(QObject *parent = nullptr);
+    explicit PostDate(const DateRegion &region, QObject *parent = nullptr);
 
     Date date() const { return m_date; }
     void setDate(Date date);

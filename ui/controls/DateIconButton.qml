@@ -17,7 +17,7 @@ T.AbstractButton {
     Accessible.name: root.name
     Accessible.onPressAction: {
         if (root.enabled && root.visible)
-            root.click();
+            root.clicked();
     }
 
     FontMetrics {

@@ -98,9 +98,10 @@ Item {
         }
     }
 
+    objectName: ["yearPart", "monthPart", "dayPart", "hourPart", "minutePart", "dayPeriodPart"][root.modelData.kind]
     implicitWidth: row.implicitWidth
     implicitHeight: row.implicitHeight
-    activeFocusOnTab: root.tabStop
+    activeFocusOnTab: root.tabStop || root.activeFocus
 
     Accessible.role: Accessible.SpinBox
     Accessible.name: root.name()
@@ -163,7 +164,7 @@ Item {
         Rectangle {
             id: pill
 
-            implicitWidth: Math.ceil(Math.max(number.implicitWidth, ...root.modelData.samples.map(sample => metrics.advanceWidth(sample)))) + metrics.height * 0.4
+            implicitWidth: Math.ceil(Math.max(number.implicitWidth, ...root.modelData.samples.map(sample => metrics.advanceWidth(sample)))) + metrics.height * 0.36
             implicitHeight: Math.ceil(metrics.height) + 4
             radius: Theme.controlRadius / 2
             color: root.activeFocus ? Theme.accent : "transparent"

@@ -11,6 +11,8 @@ FieldGround {
     // The one to which the Tab key leads.
     required property DatePart firstPart
     property bool impossible: false
+    // Whether the first part has the focus when the field is given it as a whole.
+    property bool isEntry: false
 
     // Whether one of the parts has the keyboard, and the one that has it or had it last.
     readonly property bool active: segments.activeFocus
@@ -55,6 +57,7 @@ FieldGround {
     FocusScope {
         id: segments
 
+        focus: root.isEntry
         anchors.centerIn: parent
         implicitWidth: row.implicitWidth
         implicitHeight: row.implicitHeight
@@ -76,6 +79,7 @@ FieldGround {
 
                     required property int index
 
+                    focus: segment.modelData === root.firstPart
                     tabStop: segment.modelData === (root.active ? root.currentPart : root.firstPart)
                     impossible: root.impossible
                     onActiveFocusChanged: {

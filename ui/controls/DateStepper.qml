@@ -11,20 +11,18 @@ Item {
     implicitWidth: Math.ceil(Theme.bodySize * 1.5)
     implicitHeight: Math.ceil(Theme.bodySize * 2.4)
 
-    Column {
-        anchors.fill: parent
+    DateStepperHalf {
+        anchors.top: parent.top
+        width: root.width
+        height: root.height / 2
+        onClicked: root.stepped(1)
+    }
 
-        DateStepperHalf {
-            width: root.width
-            height: root.height / 2
-            onClicked: root.stepped(1)
-        }
-
-        DateStepperHalf {
-            width: root.width
-            height: root.height / 2
-            rotation: 180
-            onClicked: root.stepped(-1)
-        }
+    DateStepperHalf {
+        anchors.bottom: parent.bottom
+        width: root.width
+        height: root.height / 2
+        rotation: 180
+        onClicked: root.stepped(-1)
     }
 }

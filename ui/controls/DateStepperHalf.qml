@@ -15,9 +15,8 @@ T.AbstractButton {
             anchors.centerIn: parent
             anchors.verticalCenterOffset: root.height * 0.08
             name: "chevron.left"
-            size: Math.round(Theme.bodySize * 0.8)
+            size: Math.round(Theme.bodySize * 0.9)
             rotation: 90
-            color: root.hovered ? Theme.text : Theme.secondaryText
         }
     }
 

@@ -59,6 +59,7 @@ FocusScope {
                 id: day
 
                 objectName: "dayParts"
+                isEntry: true
                 parts: root.postDate.dayParts
                 firstPart: root.postDate.firstDayPart
                 impossible: root.postDate.unsettled
@@ -77,7 +78,12 @@ FocusScope {
                 objectName: "monthButton"
                 symbol: "calendar"
                 name: qsTr("Choose Day")
-                onClicked: root.openMonth(monthButton)
+                onClicked: {
+                    if (month.opened)
+                        month.close();
+                    else
+                        root.openMonth(monthButton);
+                }
 
                 MonthPopup {
                     id: month

@@ -15,7 +15,8 @@ Item {
 
     signal chosen
 
-    activeFocusOnTab: root.current
+    objectName: "monthDay" + root.index
+    activeFocusOnTab: root.current || root.activeFocus
     enabled: root.dayText !== ""
 
     Accessible.role: Accessible.Button

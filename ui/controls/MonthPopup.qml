@@ -28,13 +28,14 @@ T.Popup {
             day.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    // Beneath the button where there is room for it, else above.
+    // Beneath the button, or above it where there is room only there.
     function place(): void {
         const anchor = root.parent;
         const gap = Theme.spacing / 2;
-        const below = anchor.mapToItem(T.Overlay.overlay, 0, anchor.height + gap).y;
-        const fits = below + root.implicitHeight + Theme.spacing <= T.Overlay.overlay.height;
-        root.y = fits ? anchor.height + gap : -root.implicitHeight - gap;
+        const needed = root.implicitHeight + gap + Theme.spacing;
+        const above = anchor.mapToItem(T.Overlay.overlay, 0, 0).y;
+        const below = T.Overlay.overlay.height - above - anchor.height;
+        root.y = below < needed && above >= needed ? -root.implicitHeight - gap : anchor.height + gap;
     }
 
     function pressInGrid(event: KeyEvent): bool {
