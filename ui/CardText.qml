@@ -6,9 +6,18 @@ import Tavlo
 Item {
     id: root
 
+    component PlainLabel: Text {
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignLeft
+        font.pixelSize: Theme.bodySize
+        color: Theme.text
+        Accessible.ignored: true
+    }
+
     required property string text
-    required property font font
-    required property color color
+    property alias font: label.font
+    property alias color: label.color
     // Whether a change is shown as a movement; otherwise it is done at once.
     property bool animated: false
     // The text on screen: it follows `text`.
@@ -34,27 +43,22 @@ Item {
     }
     Component.onCompleted: root.shownText = root.text
 
-    component Label: Text {
-        anchors.left: parent.left
-        anchors.right: parent.right
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
-        horizontalAlignment: Text.AlignLeft
-        font: root.font
-        color: root.color
-        Accessible.ignored: true
-    }
-
-    Label {
+    PlainLabel {
         id: label
 
-        text: root.shownText
+        anchors.left: parent.left
+        anchors.right: parent.right
         height: root.shownText.length > 0 ? label.implicitHeight : 0
+        text: root.shownText
     }
 
-    Label {
+    PlainLabel {
         id: former
 
+        anchors.left: parent.left
+        anchors.right: parent.right
+        font: label.font
+        color: label.color
         visible: transition.running
     }
 

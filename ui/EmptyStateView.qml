@@ -1,23 +1,51 @@
 import QtQuick
 import Tavlo
 
-// What the window says while there are no posts. It grows and fades in, and shrinks and fades out.
+// What the window shows while there are no posts. The symbol grows and fades in with it, and
+// shrinks and fades out.
 Item {
     id: root
 
     // Whether it is wanted on screen.
-    property bool shown: true
+    required property bool shown
+    // How much of it is there: 0 to 1.
+    property real presence: root.shown ? 1 : 0
 
     implicitHeight: message.height
-    visible: message.opacity > 0
+    visible: root.presence > 0
+
+    Behavior on presence  {
+        NumberAnimation {
+            duration: Theme.duration
+            easing.type: Easing.Bezier
+            easing.bezierCurve: Theme.easeInOut
+        }
+    }
 
     Column {
         id: message
 
         anchors.centerIn: parent
         spacing: Theme.spacing
+        opacity: root.presence
+
+        Item {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: symbol.width
+            height: symbol.height + Theme.padding
+
+            Symbol {
+                id: symbol
+
+                objectName: "symbol"
+                name: "doc.plaintext"
+                size: 64
+                scale: root.presence
+            }
+        }
 
         Text {
+            objectName: "message"
             anchors.horizontalCenter: parent.horizontalCenter
             textFormat: Text.PlainText
             text: qsTr("No blog posts yet.")

@@ -1,53 +1,131 @@
 import QtQuick
-import QtQuick.Controls.Basic
+import QtQuick.Templates as T
 import Tavlo
 
-// The posts as a list of cards, in the store's order. Only the cards in sight exist.
+// The posts as a list of cards, in the store's order. Only the cards in and near sight exist.
 ListView {
     id: root
 
     required property BlogViewModel viewModel
-    // Whether the keyboard was used last: only then the focused card shows a ring.
-    property bool keyboardUsed: false
-    // Whether the list had the focus before the change that is under way.
+    readonly property bool empty: posts.empty
+    // Whether the list was last used by keys: only then does the focused card show a ring.
+    property bool usedByKeys: false
+    // Whether the change that is under way may take the focus from a card.
     property bool hadFocus: false
 
-    // The card that had the focus has gone, and there is none left.
+    // The card that had the focus has gone, and there is no other.
     signal focusLeft
 
-    function scrollTo(position: real): void {
-        scroll.stop();
+    function clamped(position: real): real {
         const top = root.originY - root.topMargin;
         const bottom = root.originY + root.contentHeight + root.bottomMargin - root.height;
-        scroll.to = Math.max(top, Math.min(position, bottom));
+        return Math.max(top, Math.min(position, bottom));
+    }
+
+    // Moves from one place to another. A way longer than a page is cut to a page.
+    function scrollBetween(start: real, end: real): void {
+        const target = root.clamped(end);
+        scroll.stop();
+        root.cancelFlick();
+        root.contentY = Math.max(target - root.height, Math.min(start, target + root.height));
+        scroll.to = target;
         scroll.start();
     }
 
-    // Scrolls to a row, with the default padding around it, the shortest way. A way longer than a
-    // page is cut to a page.
+    // Scrolls the shortest way that brings a row and the default padding around it into sight.
     function bringIntoSight(row: int): void {
-        root.forceLayout();
         const start = root.contentY;
         if (!root.itemAtIndex(row))
             root.positionViewAtIndex(row, ListView.Contain);
         const item = root.itemAtIndex(row);
-        if (!item)
-            return;
         const top = item.y - Theme.padding;
         const bottom = item.y + item.height + Theme.padding - root.height;
-        let position = root.contentY;
-        if (top < position)
-            position = top;
-        else if (bottom > position)
-            position = Math.min(top, bottom);
-        root.contentY = Math.max(position - root.height, Math.min(start, position + root.height));
-        root.scrollTo(position);
+        if (top < root.contentY || bottom > root.contentY || start !== root.contentY)
+            root.scrollBetween(start, top < root.contentY ? top : Math.min(top, Math.max(bottom, root.contentY)));
     }
 
-    function openMenu(row: PostRow, x: real, y: real): void {
+    function focusRow(row: int): void {
+        root.usedByKeys = true;
+        root.currentIndex = Math.max(0, Math.min(row, root.count - 1));
+        root.bringIntoSight(root.currentIndex);
+    }
+
+    // Goes to the card before or after. One that is higher than the view is scrolled through first.
+    function stepBy(rows: int): void {
+        const item = root.currentItem;
+        const hiddenAbove = root.contentY - item.y + Theme.padding;
+        const hiddenBelow = item.y + item.height + Theme.padding - root.contentY - root.height;
+        const hidden = rows < 0 ? hiddenAbove : hiddenBelow;
+        const inSight = hiddenAbove < item.height && hiddenBelow < item.height;
+        if (item.height > root.height && inSight && hidden > 1)
+            root.scrollBetween(root.contentY, root.contentY + rows * Math.min(hidden, root.height / 2));
+        else
+            root.focusRow(root.currentIndex + rows);
+    }
+
+    // Scrolls by pages and goes to the first card that is then in sight, at an end to the last.
+    function pageBy(pages: int): void {
+        root.usedByKeys = true;
+        const start = scroll.running ? scroll.to : root.contentY;
+        const page = root.height - 2 * Theme.padding;
+        root.contentY = root.clamped(start + pages * page);
+        root.forceLayout();
+        const end = root.clamped(root.contentY);
+        if (end === start)
+            root.currentIndex = pages < 0 ? 0 : root.count - 1;
+        else
+            root.currentIndex = root.rowBelow(end);
+        root.scrollBetween(start, end);
+    }
+
+    // The first row that begins below a place, or the row that is there.
+    function rowBelow(position: real): int {
+        const row = root.indexAt(root.width / 2, position + root.spacing);
+        if (row < 0)
+            return root.indexAt(root.width / 2, position + Theme.padding + root.spacing);
+        const item = root.itemAtIndex(row);
+        const next = root.itemAtIndex(row + 1);
+        return item.y < position && next && next.y < position + root.height ? row + 1 : row;
+    }
+
+    function goToEnd(atStart: bool): void {
+        root.usedByKeys = true;
+        const start = root.contentY;
+        root.currentIndex = atStart ? 0 : root.count - 1;
+        if (atStart)
+            root.positionViewAtBeginning();
+        else
+            root.positionViewAtEnd();
+        root.scrollBetween(start, atStart ? -Infinity : Infinity);
+    }
+
+    function openMenu(row: PostRow, x: real, y: real, byKey: bool): void {
+        root.usedByKeys = byKey;
         root.currentIndex = row.index;
+        row.forceActiveFocus(Qt.OtherFocusReason);
         menu.post = row.post;
-        menu.popup(row, x, y);
+        menu.openAt(row, x, y, byKey);
+    }
+
+    // Keeps the reader's place when rows above it change their heights.
+    function keepPlace(): void {
+        const first = root.itemAt(root.width / 2, root.contentY) ?? root.itemAt(root.width / 2, root.contentY + root.spacing);
+        if (!first)
+            return;
+        const before = first.y;
+        root.forceLayout();
+        root.contentY += first.y - before;
+    }
+
+    function keepFocus(): void {
+        if (root.count === 0) {
+            root.focusLeft();
+            return;
+        }
+        if (root.currentIndex < 0)
+            root.currentIndex = 0;
+        if (!menu.visible)
+            root.currentItem.forceActiveFocus(Qt.OtherFocusReason);
     }
 
     model: posts
@@ -55,20 +133,41 @@ ListView {
     topMargin: Theme.padding
     bottomMargin: Theme.padding
     boundsBehavior: Flickable.StopAtBounds
+    keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
-    activeFocusOnTab: false
 
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Posts")
 
+    Keys.onUpPressed: root.stepBy(-1)
+    Keys.onDownPressed: root.stepBy(1)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_PageUp)
+            root.pageBy(-1);
+        else if (event.key === Qt.Key_PageDown)
+            root.pageBy(1);
+        else if (event.key === Qt.Key_Home)
+            root.goToEnd(true);
+        else if (event.key === Qt.Key_End)
+            root.goToEnd(false);
+        else
+            return;
+        event.accepted = true;
+    }
+    onMovementStarted: scroll.stop()
+
     delegate: PostRow {
         id: row
 
-        width: ListView.view.width
-        viewModel: root.viewModel
-        animated: row.y + row.height > root.contentY && row.y < root.contentY + root.height
-        focusShown: row.activeFocus && root.keyboardUsed
-        onMenuRequested: (x, y) => root.openMenu(row, x, y)
+        readonly property PostListView list: ListView.view as PostListView
+
+        width: row.list.width
+        viewModel: row.list.viewModel
+        current: ListView.isCurrentItem
+        animated: row.y + row.height > row.list.contentY && row.y < row.list.contentY + row.list.height
+        focusShown: row.activeFocus && row.list.usedByKeys
+        onFocusedByTab: row.list.focusRow(row.index)
+        onMenuRequested: (x, y, byKey) => row.list.openMenu(row, x, y, byKey)
         ListView.onAdd: row.arrive()
     }
 
@@ -113,15 +212,22 @@ ListView {
         }
     }
 
-    ScrollBar.vertical: ScrollBar {}
+    T.ScrollBar.vertical: ScrollIndicatorBar {
+        onPressedChanged: scroll.stop()
+    }
 
     PostListModel {
         id: posts
 
         viewModel: root.viewModel
+        onDataChanged: root.keepPlace()
+        onAboutToChange: root.hadFocus = root.activeFocus || menu.visible
         onChanged: insertedRow => {
+            root.forceLayout();
             if (insertedRow >= 0)
                 root.bringIntoSight(insertedRow);
+            if (root.hadFocus)
+                root.keepFocus();
         }
     }
 
@@ -135,17 +241,18 @@ ListView {
         easing.bezierCurve: Theme.easeInOut
     }
 
-    Menu {
+    // One menu for all cards. It holds a copy of the post: a card may go while the menu is open.
+    AppMenu {
         id: menu
 
         property blogPost post
 
-        MenuItem {
+        AppMenuItem {
             text: qsTr("Edit Post")
             onTriggered: PostActions.edit(menu.post)
         }
 
-        MenuItem {
+        AppMenuItem {
             text: qsTr("Delete Post")
             onTriggered: PostActions.remove(root.viewModel, menu.post)
         }

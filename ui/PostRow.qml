@@ -3,28 +3,28 @@ import Tavlo
 
 // A row of the post list: a card between the window's edges. The list places the row; the card
 // arrives in it.
-Item {
+FocusScope {
     id: root
 
     required property int index
     required property blogPost post
     required property string dateText
     required property BlogViewModel viewModel
+    // Whether it is the row that Tab leads to.
+    property bool current: false
     property bool focusShown: false
+    // Whether a change of the post is shown as a movement.
     property bool animated: false
 
-    signal menuRequested(x: real, y: real)
+    signal focusedByTab
+    signal menuRequested(real x, real y, bool byKey)
 
     // Brings the card up from its own height below its place, while it fades in.
     function arrive(): void {
-        card.opacity = 0;
         arrival.restart();
     }
 
     implicitHeight: card.height
-    activeFocusOnTab: root.ListView.isCurrentItem
-
-    Keys.onMenuPressed: root.menuRequested(card.x + Theme.padding, Theme.padding)
 
     PostCardView {
         id: card
@@ -33,7 +33,8 @@ Item {
         anchors.right: parent.right
         anchors.leftMargin: Theme.padding
         anchors.rightMargin: Theme.padding
-        height: card.implicitHeight
+        focus: true
+        activeFocusOnTab: root.current
         post: root.post
         viewModel: root.viewModel
         dateText: root.dateText
@@ -42,7 +43,11 @@ Item {
         transform: Translate {
             id: rise
         }
-        onMenuRequested: (x, y) => root.menuRequested(card.x + x, y)
+        onVisualFocusChanged: {
+            if (card.visualFocus)
+                root.focusedByTab();
+        }
+        onMenuRequested: (x, y, byKey) => root.menuRequested(card.x + x, y, byKey)
     }
 
     ParallelAnimation {

@@ -1,7 +1,8 @@
 import QtQuick
 import Tavlo
 
-// What the window shows below its header: the posts, or that there are none yet.
+// What the window shows below its header: the posts or, when there are none, a word about that.
+// The one fades into the other: the cards by themselves, the word as a whole.
 FocusScope {
     id: root
 
@@ -11,7 +12,7 @@ FocusScope {
 
     EmptyStateView {
         anchors.fill: parent
-        shown: list.count === 0
+        shown: list.empty
     }
 
     PostListView {
@@ -19,7 +20,16 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        visible: !list.empty || lastCards.running
         viewModel: root.viewModel
+        onEmptyChanged: lastCards.restart()
         onFocusLeft: root.focusLeft()
+    }
+
+    // The list stays while its last cards leave.
+    Timer {
+        id: lastCards
+
+        interval: Theme.duration
     }
 }

@@ -1,42 +1,50 @@
 import QtQuick
 import Tavlo
 
-// A soft shadow of radius 2, without offset, around a card of the same size as this item. It is
-// laid up from translucent plates, each a little larger, which is sharp at every scale and fits
-// a card of any height. Their sum at the card's edge is half of the shadow's full strength, as of
-// any blurred edge; under the card it is hidden.
+// A soft shadow of radius 2, without offset, around the card that it fills. It is laid up from
+// translucent plates, each a little smaller, which are sharp at every scale and fit a card of any
+// height. At the card's edge they add up to half of the full strength, 0.33, as any blurred edge
+// does; the card hides the rest.
 Item {
     id: root
 
-    required property real radius
+    property real radius: Theme.cardRadius
 
-    component Plate: Rectangle {
-        required property real outset
+    anchors.fill: parent
 
+    Rectangle {
         anchors.fill: parent
-        anchors.margins: -outset
-        radius: root.radius + outset
+        anchors.margins: -3
+        radius: root.radius + 3
         color: Theme.shadow
+        opacity: 0.015
         antialiasing: true
     }
 
-    Plate {
-        outset: 3
-        opacity: 0.015
-    }
-
-    Plate {
-        outset: 2
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -2
+        radius: root.radius + 2
+        color: Theme.shadow
         opacity: 0.03
+        antialiasing: true
     }
 
-    Plate {
-        outset: 1.25
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -1.25
+        radius: root.radius + 1.25
+        color: Theme.shadow
         opacity: 0.05
+        antialiasing: true
     }
 
-    Plate {
-        outset: 0.5
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -0.5
+        radius: root.radius + 0.5
+        color: Theme.shadow
         opacity: 0.08
+        antialiasing: true
     }
 }
