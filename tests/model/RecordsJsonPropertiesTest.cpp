@@ -10,20 +10,23 @@
 #include <rapidjson/reader.h>
 
 #include <charconv>
+#include <cmath>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace {
 
-/// A parsed value: for a number its text, for a string its UTF-8.
+/// A parsed value: for a number its text, for a string its UTF-8, for an object the names of its
+/// elements.
 struct JsonValue
 {
     enum Type { Other, Number, String, Array, Object };
 
     Type type = Other;
     std::string text;
+    std::vector<std::string> names;
     std::vector<JsonValue> elements;
-    std::vector<std::pair<std::string, JsonValue>> members;
 };
 
 /// Builds values from what RapidJSON finds. False from a handler is an error of the document.
@@ -91,9 +94,9 @@ private:
         if (m_path.empty())
             return root = std::move(value);
         JsonValue &container = *m_path.back();
-        if (container.type == JsonValue::Array)
-            return container.elements.emplace_back(std::move(value));
-        return container.members.emplace_back(m_key, std::move(value)).second;
+        if (container.type == JsonValue::Object)
+            container.names.push_back(m_key);
+        return container.elements.emplace_back(std::move(value));
     }
 
     std::vector<JsonValue *> m_path;
@@ -133,19 +136,21 @@ OtherReading parse(QByteArray json)
 const JsonValue *member(const JsonValue &object, const char *key, JsonValue::Type type)
 {
     const JsonValue *found = nullptr;
-    for (const auto &[name, value] : object.members) {
-        if (name == key)
-            found = &value;
+    for (std::size_t index = 0; index < object.names.size(); ++index) {
+        if (object.names[index] == key)
+            found = &object.elements[index];
     }
     return found && found->type == type ? found : nullptr;
 }
 
+/// The nearest double; nothing where the number is too large for one.
 std::optional<double> number(const std::string &text)
 {
     double parsed = 0;
-    const auto status =
-        std::from_chars(text.data(), text.data() + text.size(), parsed).ec; // of any locale
-    return status == std::errc() ? std::optional(parsed) : std::nullopt;
+    if (std::from_chars(text.data(), text.data() + text.size(), parsed).ec == std::errc())
+        return parsed;
+    parsed = std::strtod(text.c_str(), nullptr);
+    return std::isfinite(parsed) ? std::optional(parsed) : std::nullopt;
 }
 
 /// The posts of a document as the other reader has it.
@@ -233,35 +238,48 @@ rc::Gen<std::string> anyJson(int depth)
         {{2, gen::elementOf(scalars)}, {1, list("[", "]", false)}, {1, list("{", "}", true)}});
 }
 
+rc::Gen<JsonFields> anyFields(const std::vector<QByteArray> &keys, int atMost)
+{
+    using namespace rc;
+    const auto value = gen::map(
+        anyJson(3), [](const std::string &json) { return QByteArray::fromStdString(json); });
+    const auto field = gen::pair(gen::elementOf(keys), value);
+    return gen::mapcat(gen::inRange(0, atMost + 1), [field](int count) {
+        return gen::container<JsonFields>(std::size_t(count), field);
+    });
+}
+
 /// A posts document that is good but for what its fields, some of them strangers, repeated or
 /// missing, hold.
 rc::Gen<QByteArray> anyPostsDocument()
 {
     using namespace rc;
-    const auto field = gen::pair(
-        gen::elementOf(std::vector<QByteArray>{"id", "title", "content", "date", "description",
-                                               "permalink", "author", "titl\\u0065", ""}),
-        gen::map(anyJson(3),
-                 [](const std::string &json) { return QByteArray::fromStdString(json); }));
+    static const std::vector<QByteArray> strangers{"author", "Title", "", "\\u0000",
+                                                   "\\ud83d\\ude00"};
+    static const std::vector<QByteArray> ours{"id",          "title",     "content",    "date",
+                                              "description", "permalink", "titl\\u0065"};
     const auto post = gen::apply(
-        [](JsonFields before, const JsonFields &after, int missing) {
+        [](const JsonFields &repeated, JsonFields fields, int missing, const JsonFields &last) {
             const JsonFields good = goodPostFields();
+            fields.insert(fields.begin(), repeated.begin(), repeated.end());
             for (int index = 0; index < int(good.size()); ++index) {
                 if (index != missing)
-                    before.push_back(good[std::size_t(index)]);
+                    fields.push_back(good[std::size_t(index)]);
             }
-            before.insert(before.end(), after.begin(), after.end());
-            return jsonObject(before);
+            fields.insert(fields.end(), last.begin(), last.end());
+            return jsonObject(fields);
         },
-        gen::resize(3, gen::container<JsonFields>(field)),
-        gen::resize(1, gen::container<JsonFields>(field)), gen::inRange(0, 60));
-    return gen::map(gen::resize(3, gen::container<std::vector<QByteArray>>(post)),
-                    [](const std::vector<QByteArray> &posts) {
-                        QByteArray json = "[";
-                        for (const QByteArray &one : posts)
-                            json += (json.size() > 1 ? "," : "") + one;
-                        return json + ']';
-                    });
+        anyFields(ours, 2), anyFields(strangers, 2), gen::inRange(0, 60),
+        gen::weightedOneOf<JsonFields>({{4, anyFields(strangers, 1)}, {1, anyFields(ours, 1)}}));
+    const auto posts = gen::mapcat(gen::inRange(0, 3), [post](int count) {
+        return gen::container<std::vector<QByteArray>>(std::size_t(count), post);
+    });
+    return gen::map(posts, [](const std::vector<QByteArray> &objects) {
+        QByteArray json = "[";
+        for (const QByteArray &object : objects)
+            json += (json.size() > 1 ? "," : "") + object;
+        return json + ']';
+    });
 }
 
 /// One small damage to a document.
