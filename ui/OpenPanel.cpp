@@ -17,8 +17,10 @@ void OpenPanel::importInto(BlogViewModel *store)
     panel->setNameFilter(tr("RSS feeds (*.rss *.xml)"));
     panel->setDirectoryUrl(m_folder);
 
-    connect(panel, &QFileDialog::urlSelected, this,
-            [store = store->shared_from_this()](const QUrl &file) { store->importRSSFeed(file); });
+    connect(panel, &QFileDialog::fileSelected, this,
+            [store = store->shared_from_this()](const QString &path) {
+                store->importRSSFeed(QUrl::fromLocalFile(path));
+            });
     connect(panel, &QFileDialog::finished, this,
             [this, panel] { m_folder = panel->directoryUrl(); });
     panel->show();
