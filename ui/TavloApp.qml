@@ -11,6 +11,7 @@ ApplicationWindow {
     minimumWidth: content.leastWidth
     minimumHeight: content.leastHeight
     visible: true
+    title: "Tavlo"
     color: Theme.window
     font.pixelSize: Theme.bodySize
 

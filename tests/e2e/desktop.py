@@ -1,0 +1,226 @@
+"""A desktop of the tests' own, and the program at work on it: started in a home of its own, read
+through the accessibility tree, worked with real keys and a real mouse."""
+
+import os
+import pathlib
+import signal
+import subprocess
+import tempfile
+import time
+import unittest
+
+# How long anything may take that the program is to do.
+SECONDS = 20
+
+
+def wait_for(condition, what, seconds=SECONDS):
+    """The condition's first true result; fails with a sentence when there is none in time."""
+    end = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise AssertionError(f"waited {seconds} seconds in vain: {what}")
+        time.sleep(0.05)
+
+
+class Display:
+    """A virtual screen with a window manager, on the first number that is free."""
+
+    def __init__(self, width=1200, height=960):
+        reading, writing = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp"],
+            pass_fds=[writing], stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with os.fdopen(reading) as number:
+            self.name = ":" + number.readline().strip()
+        os.environ["DISPLAY"] = self.name
+        self.manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
+
+    def close(self):
+        for process in (self.manager, self.server):
+            process.terminate()
+            process.wait()
+
+
+class Program:
+    """The program in a home of its own, which outlives it: start() may be called again."""
+
+    def __init__(self, path):
+        self.path = path
+        self.folder = tempfile.TemporaryDirectory(prefix="tavlo-e2e-")
+        self.home = pathlib.Path(self.folder.name)
+        (self.home / "runtime").mkdir(mode=0o700)
+        self.environment = {
+            "HOME": str(self.home),
+            "XDG_CONFIG_HOME": str(self.home / ".config"),
+            "XDG_CACHE_HOME": str(self.home / ".cache"),
+            "XDG_DATA_HOME": str(self.home / ".local/share"),
+            "XDG_STATE_HOME": str(self.home / ".local/state"),
+            "XDG_RUNTIME_DIR": str(self.home / "runtime"),
+            "LC_ALL": "C.UTF-8",
+            "TZ": "UTC",
+            "QT_QPA_PLATFORM": "xcb",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "QSG_RENDER_LOOP": "basic",
+        }
+        self.process = None
+
+    def file(self, name):
+        return self.home / name
+
+    def start(self):
+        self.process = subprocess.Popen(
+            [self.path], env=os.environ | self.environment, cwd=self.home,
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.window = wait_for(self.find_window, "the program's window")
+        wait_for(lambda: self.find(role="push button", name="New Post"), "the window's accessibility tree")
+
+    def find_window(self):
+        if self.process.poll() is not None:
+            raise AssertionError(f"the program ended: {self.process.stderr.read().decode()}")
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
+                               capture_output=True, text=True).stdout.split()
+        return found[-1] if found else None
+
+    def close_window(self):
+        """Closes the window by the window manager's key; what the program printed."""
+        self.keys("alt+F4")
+        return self.wait_for_end()
+
+    def wait_for_end(self):
+        try:
+            output, errors = self.process.communicate(timeout=SECONDS)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+            raise AssertionError("the program did not end with its window")
+        self.process = None
+        return output.decode(), errors.decode()
+
+    def end(self):
+        if self.process:
+            self.process.send_signal(signal.SIGKILL)
+            self.process.communicate()
+        self.folder.cleanup()
+
+    # Reading the screen
+
+    def application(self):
+        import pyatspi
+        for application in pyatspi.Registry.getDesktop(0):
+            if application and self.process and application.get_process_id() == self.process.pid:
+                return application
+        return None
+
+    def nodes(self):
+        """All nodes of the accessibility tree that are showing, from the window down."""
+        def walk(node):
+            yield node
+            for child in node:
+                if child:
+                    yield from walk(child)
+        application = self.application()
+        return [node for node in walk(application) if showing(node)] if application else []
+
+    def find(self, role=None, name=None):
+        """The first showing node of that role and name, or nothing."""
+        for node in self.nodes():
+            try:
+                if (role is None or node.getRoleName() == role) and (name is None or node.name == name):
+                    return node
+            except Exception:  # the node went while it was read
+                continue
+        return None
+
+    def wait_for(self, role=None, name=None):
+        return wait_for(lambda: self.find(role, name), f"{role or 'node'} {name!r} on the screen")
+
+    def wait_until_gone(self, role=None, name=None):
+        wait_for(lambda: not self.find(role, name), f"{role or 'node'} {name!r} to go")
+
+    def tree(self):
+        lines = []
+
+        def walk(node, depth):
+            states = " ".join(str(state) for state in node.getState().getStates())
+            lines.append(f"{'  ' * depth}{node.getRoleName()} {node.name!r} {node.description!r} {states}")
+            for child in node:
+                if child:
+                    walk(child, depth + 1)
+        application = self.application()
+        if application:
+            walk(application, 0)
+        return "\n".join(lines)
+
+    # Working the window
+
+    def keys(self, *keys):
+        for key in keys:
+            subprocess.run(["xdotool", "key", "--window", "0", key], check=True)
+            time.sleep(0.05)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
+
+    def paste(self, text):
+        """Puts a text that a keyboard cannot type into the focused field, in place of the selection."""
+        subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), check=True)
+        self.keys("ctrl+v")
+
+    def click(self, node, button=1):
+        import pyatspi
+        box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        subprocess.run(["xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2),
+                        "click", str(button)], check=True)
+
+    def press(self, name):
+        """Clicks the button of that name."""
+        self.click(self.wait_for("push button", name))
+
+    def screenshot(self, path):
+        subprocess.run(["import", "-window", "root", str(path)], check=False)
+
+
+def showing(node):
+    import pyatspi
+    try:
+        return node.getState().contains(pyatspi.STATE_SHOWING)
+    except Exception:  # the node went while it was read
+        return False
+
+
+class ProgramTest(unittest.TestCase):
+    """A story told with a program in a fresh home. A failure leaves a screenshot and the tree."""
+
+    program_path = os.environ["TAVLO_PROGRAM"]
+    remains = pathlib.Path(os.environ["TAVLO_REMAINS"])
+
+    @classmethod
+    def setUpClass(cls):
+        cls.display = Display()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.display.close()
+
+    def setUp(self):
+        self.program = Program(self.program_path)
+        self.addCleanup(self.program.end)
+
+    def _callTestMethod(self, method):
+        try:
+            super()._callTestMethod(method)
+        except unittest.SkipTest:
+            raise
+        except Exception:
+            self.leave_remains()
+            raise
+
+    def leave_remains(self):
+        self.remains.mkdir(parents=True, exist_ok=True)
+        picture, tree = (self.remains / f"{self.id()}.{ending}" for ending in ("png", "txt"))
+        self.program.screenshot(picture)
+        tree.write_text(self.program.tree())
+        print(f"The screen is in {picture}, the accessibility tree in {tree}")
