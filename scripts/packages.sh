@@ -64,8 +64,10 @@ test_packages=(
     libxml2-utils
     python3
     python3-feedparser
+    python3-gi
     python3-pyatspi
     qml6-module-qttest
+    rapidjson-dev
     xclip
 )
 
