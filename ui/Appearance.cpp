@@ -68,10 +68,10 @@ void Appearance::askPortal()
     if (!bus.isConnected())
         return;
     bus.connect(portalService, portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
-        SLOT(takePortalSetting(QString, QString, QDBusVariant)));
+                SLOT(takePortalSetting(QString, QString, QDBusVariant)));
 
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        portalService, portalPath, portalInterface, QStringLiteral("Read"));
+    QDBusMessage question = QDBusMessage::createMethodCall(portalService, portalPath,
+                                                           portalInterface, QStringLiteral("Read"));
     question << settingsGroup << schemeKey;
     auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
@@ -82,8 +82,8 @@ void Appearance::askPortal()
     });
 }
 
-void Appearance::takePortalSetting(
-    const QString &group, const QString &key, const QDBusVariant &value)
+void Appearance::takePortalSetting(const QString &group, const QString &key,
+                                   const QDBusVariant &value)
 {
     if (group == settingsGroup && key == schemeKey)
         takeScheme(value.variant());

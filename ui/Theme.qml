@@ -1,5 +1,4 @@
 pragma Singleton
-
 import QtQuick
 import Tavlo
 
@@ -37,13 +36,14 @@ QtObject {
 
     // Controls
     readonly property color button: root.dark ? "#38383f" : "#ffffff"
-    readonly property color buttonHovered: root.dark ? "#41414a" : "#f2f3f7"
+    readonly property color buttonHovered: root.dark ? "#3f3f47" : "#f2f3f7"
     readonly property color buttonPressed: root.dark ? "#2e2e34" : "#e4e6ec"
     readonly property color buttonDisabled: root.dark ? "#323238" : "#eeeef1"
     readonly property color border: root.dark ? "#8b8b95" : "#83838d"
     readonly property color borderDisabled: root.dark ? "#4b4b53" : "#cfcfd6"
     readonly property color focusRing: root.dark ? "#a3c9ff" : "#1f62c4"
     readonly property color scrollBar: root.dark ? "#8b8b95" : "#83838d"
+    readonly property color scrollBarHovered: root.dark ? "#b4b4bd" : "#5f5f69"
 
     // Type, in pixels. Everything follows the size that the user gave to applications.
     readonly property int bodySize: Math.max(13, Math.round(Appearance.fontSize))

@@ -36,7 +36,6 @@ T.Menu {
     padding: 5
     modal: true
     dim: false
-    delegate: AppMenuItem {}
 
     contentItem: ListView {
         implicitHeight: contentHeight

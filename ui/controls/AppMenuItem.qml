@@ -15,10 +15,10 @@ T.MenuItem {
     Accessible.name: root.text
     Accessible.onPressAction: {
         if (root.enabled && root.visible)
-            root.click();
+            root.clicked();
     }
-    Keys.onReturnPressed: root.click()
-    Keys.onEnterPressed: root.click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     ButtonKeyFilter {
         button: root

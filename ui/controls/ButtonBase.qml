@@ -36,6 +36,7 @@ T.AbstractButton {
     verticalPadding: Theme.controlPadding
     horizontalPadding: 2 * Theme.controlPadding
     spacing: 7
+    hoverEnabled: true
     font.pixelSize: Theme.bodySize
     font.weight: Font.Medium
     Accessible.role: Accessible.Button
@@ -43,7 +44,7 @@ T.AbstractButton {
     Accessible.description: root.help
     Accessible.onPressAction: {
         if (root.enabled && root.visible)
-            root.click();
+            root.clicked();
     }
 
     ButtonKeyFilter {
@@ -78,6 +79,7 @@ T.AbstractButton {
             Text {
                 id: title
 
+                objectName: "title"
                 width: Math.min(implicitWidth, root.availableWidth - content.markWidth)
                 text: root.text
                 font: root.font
@@ -96,13 +98,14 @@ T.AbstractButton {
         border.width: root.prominent && !root.dimmed ? 0 : 1
         border.color: root.dimmed ? Theme.borderDisabled : Theme.border
 
-        Behavior on color {
+        Behavior on color  {
             ColorAnimation {
                 duration: Theme.hoverDuration
             }
         }
 
         FocusRing {
+            objectName: "focusRing"
             visible: root.visualFocus
             innerRadius: Theme.controlRadius
         }

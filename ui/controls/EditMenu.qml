@@ -32,7 +32,8 @@ AppMenu {
         onTriggered: root.field.undo()
     }
 
-    AppMenuSeparator {}
+    AppMenuSeparator {
+    }
 
     AppMenuItem {
         objectName: "cutItem"
@@ -55,7 +56,8 @@ AppMenu {
         onTriggered: root.field.paste()
     }
 
-    AppMenuSeparator {}
+    AppMenuSeparator {
+    }
 
     AppMenuItem {
         objectName: "selectAllItem"

@@ -1,33 +1,41 @@
 import QtQuick
 import Tavlo
 
-// Makes the editing menu of a field when it is first asked for. The field hands its secondary
-// clicks and its keys over.
-Loader {
+// Opens the editing menu of the field that it lies on: by a secondary click, which goes here and
+// not to the field, and by the keys that the field hands over. The menu is made when it is first
+// asked for.
+MouseArea {
     id: root
 
     required property var field
 
-    readonly property bool opened: root.item !== null && (root.item as EditMenu).visible
-
-    function takePress(event: var): void {
-        if (event.button !== Qt.RightButton)
-            return;
-        root.active = true;
-        (root.item as EditMenu).openAtPointer(event.x, event.y);
-    }
+    readonly property bool opened: loader.item !== null && (loader.item as EditMenu).visible
 
     function takeKey(event: var): void {
         const asked = event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier);
         if (!asked)
             return;
         event.accepted = true;
-        root.active = true;
-        (root.item as EditMenu).openAtCursor();
+        root.menu().openAtCursor();
     }
 
-    active: false
-    sourceComponent: EditMenu {
-        field: root.field
+    function menu(): EditMenu {
+        loader.active = true;
+        return loader.item as EditMenu;
+    }
+
+    anchors.fill: parent
+    acceptedButtons: Qt.RightButton
+
+    onPressed: event => root.menu().openAtPointer(event.x, event.y)
+
+    Loader {
+        id: loader
+
+        active: false
+        sourceComponent: EditMenu {
+            objectName: "editMenu"
+            field: root.field
+        }
     }
 }

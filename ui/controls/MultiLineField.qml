@@ -59,9 +59,9 @@ FocusScope {
     Flickable {
         id: view
 
+        objectName: "view"
         anchors.fill: parent
         anchors.margins: 1
-        focus: true
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
@@ -83,7 +83,7 @@ FocusScope {
             Accessible.role: Accessible.EditableText
             Accessible.name: root.label
             Accessible.multiLine: true
-            Keys.onTabPressed: root.leave(true)
+            Keys.onTabPressed: event => root.leave(!(event.modifiers & Qt.ShiftModifier))
             Keys.onBacktabPressed: root.leave(false)
             Keys.onPressed: event => {
                 const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
@@ -96,8 +96,6 @@ FocusScope {
                 }
             }
 
-            onPressed: event => opener.takePress(event)
-
             EditMenuOpener {
                 id: opener
 
@@ -105,10 +103,12 @@ FocusScope {
             }
         }
 
-        T.ScrollBar.vertical: ScrollIndicatorBar {}
+        T.ScrollBar.vertical: ScrollIndicatorBar {
+        }
     }
 
     Rectangle {
+        objectName: "outline"
         anchors.fill: parent
         radius: 8
         color: "transparent"
@@ -117,6 +117,7 @@ FocusScope {
     }
 
     FocusRing {
+        objectName: "focusRing"
         visible: area.activeFocus || opener.opened
         innerRadius: Theme.controlRadius
         gap: -Theme.focusWidth

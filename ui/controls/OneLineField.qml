@@ -34,8 +34,6 @@ T.TextField {
     Accessible.description: root.placeholderText
     Keys.onPressed: event => opener.takeKey(event)
 
-    onPressed: event => opener.takePress(event)
-
     EditMenuOpener {
         id: opener
 
@@ -45,6 +43,7 @@ T.TextField {
     Text {
         id: placeholder
 
+        objectName: "placeholder"
         x: root.leftPadding
         y: root.topPadding
         width: root.width - root.leftPadding - root.rightPadding

@@ -11,6 +11,7 @@ ButtonBase {
     horizontalPadding: 2 * Theme.controlPadding + 1
 
     HelpTip {
+        objectName: "help"
         target: root
         pressed: root.down
         text: root.help

@@ -10,6 +10,7 @@ ButtonBase {
     horizontalPadding: 2 * Theme.controlPadding + 2
 
     HelpTip {
+        objectName: "help"
         target: root
         pressed: root.down
         text: root.help

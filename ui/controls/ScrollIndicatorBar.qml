@@ -16,13 +16,6 @@ T.ScrollBar {
         implicitWidth: 6
         implicitHeight: 6
         radius: 3
-        color: Theme.scrollBar
-        opacity: root.pressed || root.hovered ? 1 : 0.7
-
-        Behavior on opacity {
-            NumberAnimation {
-                duration: Theme.shortDuration
-            }
-        }
+        color: root.pressed || root.hovered ? Theme.scrollBarHovered : Theme.scrollBar
     }
 }
