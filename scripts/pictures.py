@@ -4,9 +4,9 @@ folder given second."""
 import json
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
-import tempfile
 import time
 
 from gi.repository import Gio, GLib
@@ -96,8 +96,10 @@ class Window:
 
     def __init__(self, desktop, program, posts):
         self.desktop = desktop
-        self.home = tempfile.TemporaryDirectory()
-        home = pathlib.Path(self.home.name)
+        # The folder's name is in the picture of the export prompt.
+        self.home = home = pathlib.Path("/tmp/tavlo-home")
+        shutil.rmtree(home, ignore_errors=True)
+        home.mkdir(mode=0o700)
         (home / "run").mkdir(mode=0o700)
         (home / "Desktop").mkdir()
         (home / "posts.json").write_text(json.dumps([
@@ -130,7 +132,7 @@ class Window:
     def end(self):
         self.process.terminate()
         self.process.wait()
-        self.home.cleanup()
+        shutil.rmtree(self.home)
 
 
 def take_pictures(desktop, program, folder, suffix):
