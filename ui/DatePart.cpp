@@ -18,6 +18,7 @@ DatePart::DatePart(PostDate *owner, FieldInPattern field)
     , m_field(std::move(field))
 {
     connect(owner, &PostDate::partsChanged, this, &DatePart::changed);
+    connect(owner, &PostDate::currentPartChanged, this, &DatePart::tabStopChanged);
 }
 
 int DatePart::value() const
@@ -166,8 +167,24 @@ void DatePart::step(int by)
     setValue(next);
 }
 
+bool DatePart::isTabStop() const
+{
+    const DatePart *current = m_owner->m_currentPart;
+    const bool isOfTime = m_owner->m_timeParts.contains(this);
+    if (current && m_owner->m_timeParts.contains(current) == isOfTime)
+        return this == current;
+    return this == (isOfTime ? m_owner->m_firstTimePart : m_owner->m_firstDayPart);
+}
+
+void DatePart::enter()
+{
+    m_owner->setCurrentPart(this);
+}
+
 void DatePart::leave()
 {
+    if (m_owner->m_currentPart == this)
+        m_owner->setCurrentPart(nullptr);
     if (!isTyping() && m_owner->m_draft.has(m_field.field))
         return;
     endTyping();

@@ -17,6 +17,7 @@ class DatePart : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A PostDate has the parts of its date.")
+    Q_MOC_INCLUDE("ui/PostDate.h")
     Q_PROPERTY(Kind kind READ kind CONSTANT)
     /// The number shown, -1 where there is none: an hour as the locale counts it, half a day as 0
     /// and 1. A number that is set is brought within the range.
@@ -35,6 +36,11 @@ class DatePart : public QObject
     /// The part that is read after this one, the time's after the day's. Null at the end.
     Q_PROPERTY(DatePart *next READ next CONSTANT)
     Q_PROPERTY(DatePart *previous READ previous CONSTANT)
+    /// Whether the Tab key stops here: at the part that has the keyboard, else at the first one of
+    /// the day and of the time.
+    Q_PROPERTY(bool tabStop READ isTabStop NOTIFY tabStopChanged)
+    /// The date that this is a part of.
+    Q_PROPERTY(PostDate *owner READ owner CONSTANT)
 
 public:
     enum Kind { Year, Month, Day, Hour, Minute, DayPeriod };
@@ -54,6 +60,8 @@ public:
     QString right() const { return m_field.right; }
     DatePart *next() const { return m_next; }
     DatePart *previous() const { return m_previous; }
+    bool isTabStop() const;
+    PostDate *owner() const { return m_owner; }
 
     /// Takes a character that was typed. True where typing is to go on in the next part: this one
     /// has all the digits that it can take, or a separator was typed after them.
@@ -65,11 +73,18 @@ public:
     /// Goes up or down, at the end of the range over to its other end; years stop there. An empty
     /// part takes the present first.
     Q_INVOKABLE void step(int by);
-    /// Ends the typing in this part. A number that the part cannot have goes back to the date's.
+    /// To be called when the keyboard comes to this part.
+    Q_INVOKABLE void enter();
+    /// To be called when the keyboard leaves: the typing in this part ends, and a number that the
+    /// part cannot have goes back to the date's.
     Q_INVOKABLE void leave();
+    /// Asks whoever shows this part to give it the keyboard.
+    Q_INVOKABLE void askFocus() { emit focusAsked(); }
 
 signals:
     void changed();
+    void tabStopChanged();
+    void focusAsked();
 
 private:
     friend class PostDate;

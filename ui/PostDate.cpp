@@ -44,6 +44,12 @@ QString PostDate::dayInWords() const
     return minute ? m_words.fullDate(minute->day) : QString();
 }
 
+DatePart *PostDate::partBeside(DatePart *part, int places, bool mirrored) const
+{
+    const auto parts = mirrored ? m_timeParts + m_dayParts : m_dayParts + m_timeParts;
+    return parts.value(parts.indexOf(part) + places);
+}
+
 void PostDate::showMonth()
 {
     const auto held = m_clock.minuteAt(m_date);
@@ -166,6 +172,17 @@ void PostDate::linkParts()
     m_firstDayPart = day.first();
     m_firstTimePart = time.first();
     m_lastPart = previous;
+    m_currentTimePart = m_firstTimePart;
+}
+
+void PostDate::setCurrentPart(DatePart *part)
+{
+    if (part == m_currentPart)
+        return;
+    m_currentPart = part;
+    if (m_timeParts.contains(part))
+        m_currentTimePart = part;
+    emit currentPartChanged();
 }
 
 bool PostDate::isAfternoon() const

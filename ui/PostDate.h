@@ -36,6 +36,9 @@ class PostDate : public QObject
     Q_PROPERTY(DatePart *firstDayPart READ firstDayPart CONSTANT)
     Q_PROPERTY(DatePart *firstTimePart READ firstTimePart CONSTANT)
     Q_PROPERTY(DatePart *lastPart READ lastPart CONSTANT)
+    /// The part that has the keyboard, or null, and that of the time which has it or had it last.
+    Q_PROPERTY(DatePart *currentPart READ currentPart NOTIFY currentPartChanged)
+    Q_PROPERTY(DatePart *currentTimePart READ currentTimePart NOTIFY currentPartChanged)
     /// Whether the parts show something else than the date that is held.
     Q_PROPERTY(bool unsettled READ isUnsettled NOTIFY partsChanged)
     /// The day of the date that is held, in words; empty where it has none.
@@ -56,10 +59,15 @@ public:
     DatePart *firstDayPart() const { return m_firstDayPart; }
     DatePart *firstTimePart() const { return m_firstTimePart; }
     DatePart *lastPart() const { return m_lastPart; }
+    DatePart *currentPart() const { return m_currentPart; }
+    DatePart *currentTimePart() const { return m_currentTimePart; }
     bool isUnsettled() const { return m_draft != heldNumbers(); }
     QString dayInWords() const;
     MonthDays *month() const { return m_month; }
 
+    /// The part that stands some places to the right of another one. The time stands at the right
+    /// of the day, or at its left where the form is mirrored. Null where there is none.
+    Q_INVOKABLE DatePart *partBeside(DatePart *part, int places, bool mirrored) const;
     /// Brings the grid of days to the date's day, or to today where it has none.
     Q_INVOKABLE void showMonth();
     /// Takes the day that the grid is at, and keeps the time of day.
@@ -70,6 +78,7 @@ public:
 signals:
     void dateChanged();
     void partsChanged();
+    void currentPartChanged();
 
 private:
     friend class DatePart;
@@ -99,6 +108,8 @@ private:
     QList<DatePart *> makeParts(const QList<FieldInPattern> &fields);
     void linkParts();
 
+    void setCurrentPart(DatePart *part);
+
     bool isAfternoon() const;
     void setAfternoon(bool afternoon);
     /// The last day of the month that is shown.
@@ -125,6 +136,8 @@ private:
     DatePart *m_firstDayPart = nullptr;
     DatePart *m_firstTimePart = nullptr;
     DatePart *m_lastPart = nullptr;
+    DatePart *m_currentPart = nullptr;
+    DatePart *m_currentTimePart = nullptr;
 
     Date m_start;        ///< as it was set
     Date m_date;         ///< the last valid one

@@ -7,24 +7,16 @@ Item {
     id: root
 
     required property DatePart modelData
-    // Whether the Tab key stops here.
-    property bool tabStop: false
-    // Whether the parts together show a date that there is not.
-    property bool impossible: false
 
+    // The form's direction. The parts themselves stand as the date's locale has them.
+    property bool mirrored: false
     // What assistive tools read and set.
     property int value: -1
     readonly property int minimumValue: root.modelData.minimum
     readonly property int maximumValue: root.modelData.maximum
     readonly property int stepSize: 1
 
-    // The keyboard is to go to another part: to a certain one, to the one beside this on screen, to
-    // the first or the last of all.
-    signal partAsked(DatePart part)
-    signal moved(int columns)
-    signal movedToEnd(bool last)
-    // The month grid is to open.
-    signal monthAsked
+    readonly property PostDate date: root.modelData.owner
 
     function name(): string {
         switch (root.modelData.kind) {
@@ -43,31 +35,39 @@ Item {
         }
     }
 
-    function ask(part: DatePart): void {
+    // Gives the keyboard to another part, if there is one.
+    function go(part: DatePart): void {
         if (part)
-            root.partAsked(part);
+            part.askFocus();
+    }
+
+    function goBeside(places: int): void {
+        root.go(root.date.partBeside(root.modelData, places, root.mirrored));
+    }
+
+    function widest(): real {
+        let width = number.implicitWidth;
+        for (const sample of root.modelData.samples)
+            width = Math.max(width, metrics.advanceWidth(sample));
+        return width;
     }
 
     function type(character: string): bool {
         if (character < " " || character === "\u007f")
             return false;
         if (root.modelData.type(character))
-            root.ask(root.modelData.next);
+            root.go(root.modelData.next);
         return true;
     }
 
     function erase(): void {
         if (root.modelData.value < 0 && !root.modelData.isTyping())
-            root.ask(root.modelData.previous);
+            root.go(root.modelData.previous);
         else
             root.modelData.erase();
     }
 
     function press(event: KeyEvent): bool {
-        if (event.key === Qt.Key_F4 || (event.key === Qt.Key_Down && event.modifiers & Qt.AltModifier)) {
-            root.monthAsked();
-            return true;
-        }
         if (event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
             return false;
         switch (event.key) {
@@ -78,16 +78,16 @@ Item {
             root.modelData.step(-1);
             return true;
         case Qt.Key_Left:
-            root.moved(-1);
+            root.goBeside(-1);
             return true;
         case Qt.Key_Right:
-            root.moved(1);
+            root.goBeside(1);
             return true;
         case Qt.Key_Home:
-            root.movedToEnd(false);
+            root.go(root.date.firstDayPart);
             return true;
         case Qt.Key_End:
-            root.movedToEnd(true);
+            root.go(root.date.lastPart);
             return true;
         case Qt.Key_Backspace:
         case Qt.Key_Delete:
@@ -101,7 +101,7 @@ Item {
     objectName: ["yearPart", "monthPart", "dayPart", "hourPart", "minutePart", "dayPeriodPart"][root.modelData.kind]
     implicitWidth: row.implicitWidth
     implicitHeight: row.implicitHeight
-    activeFocusOnTab: root.tabStop || root.activeFocus
+    activeFocusOnTab: root.modelData.tabStop || root.activeFocus
 
     Accessible.role: Accessible.SpinBox
     Accessible.name: root.name()
@@ -114,18 +114,27 @@ Item {
     Keys.onPressed: event => event.accepted = root.press(event)
 
     onActiveFocusChanged: {
-        if (!root.activeFocus)
+        if (root.activeFocus)
+            root.modelData.enter();
+        else
             root.modelData.leave();
     }
     onValueChanged: {
         if (root.value !== root.modelData.value)
             root.modelData.value = root.value;
     }
-    Component.onCompleted: root.value = root.modelData.value
+    Component.onCompleted: {
+        root.value = root.modelData.value;
+        root.focus = root.modelData.tabStop;
+    }
 
     Connections {
         function onChanged(): void {
             root.value = root.modelData.value;
+        }
+
+        function onFocusAsked(): void {
+            root.forceActiveFocus(Qt.TabFocusReason);
         }
 
         target: root.modelData
@@ -164,7 +173,7 @@ Item {
         Rectangle {
             id: pill
 
-            implicitWidth: Math.ceil(Math.max(number.implicitWidth, ...root.modelData.samples.map(sample => metrics.advanceWidth(sample)))) + metrics.height * 0.36
+            implicitWidth: Math.ceil(root.widest()) + metrics.height * 0.36
             implicitHeight: Math.ceil(metrics.height) + 4
             radius: Theme.controlRadius / 2
             color: root.activeFocus ? Theme.accent : "transparent"
@@ -176,7 +185,7 @@ Item {
                 text: root.modelData.text
                 textFormat: Text.PlainText
                 font.pixelSize: Theme.bodySize
-                color: root.activeFocus ? Theme.accentText : root.impossible ? Theme.error : Theme.text
+                color: root.activeFocus ? Theme.accentText : root.date.unsettled ? Theme.error : Theme.text
                 Accessible.ignored: true
             }
         }

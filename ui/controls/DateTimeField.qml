@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import Tavlo
 
 // A date and a time of day, edited part by part or picked from a grid of days. The owner gives a
 // PostDate and reads it back; it holds a valid date at all times. The day, the button of the grid
-// and the time are one stop of the Tab key each.
+// and the time are one stop of the Tab key each; within the day and the time the arrow keys move.
 FocusScope {
     id: root
 
@@ -13,31 +12,31 @@ FocusScope {
     required property string label
 
     readonly property bool popupOpen: month.visible
-    readonly property bool rightToLeft: root.LayoutMirroring.enabled
+    readonly property bool mirrored: root.LayoutMirroring.enabled
 
-    // Where the keyboard returns to from the grid of days.
-    property Item opener: monthButton
+    // The part to which the keyboard returns from the grid of days; null for the button.
+    property DatePart opener: null
 
-    function focusPart(part: DatePart): void {
-        day.focusPart(part);
-        time.focusPart(part);
-    }
-
-    function focusEnd(last: bool): void {
-        root.focusPart(last ? root.postDate.lastPart : root.postDate.firstDayPart);
-    }
-
-    function openMonth(opener: Item): void {
+    function openMonth(opener: DatePart): void {
         root.opener = opener;
         root.postDate.showMonth();
         month.open();
     }
 
-    implicitWidth: dayAndButton.implicitWidth + Theme.spacing + timeAndStepper.implicitWidth
+    function press(event: KeyEvent): bool {
+        const isAsked = event.key === Qt.Key_F4 || (event.key === Qt.Key_Down && event.modifiers & Qt.AltModifier);
+        if (isAsked)
+            root.openMonth(root.postDate.currentPart);
+        return isAsked;
+    }
+
+    implicitWidth: dayAndButton.implicitWidth + flow.spacing + timeAndStepper.implicitWidth
     implicitHeight: flow.height
     Accessible.role: Accessible.Grouping
     Accessible.name: root.label
     Accessible.description: root.postDate.dayInWords
+
+    Keys.onPressed: event => event.accepted = root.press(event)
 
     onActiveFocusChanged: {
         if (!root.activeFocus)
@@ -56,20 +55,10 @@ FocusScope {
             spacing: Theme.spacing / 2
 
             DateSegments {
-                id: day
-
                 objectName: "dayParts"
-                isEntry: true
                 parts: root.postDate.dayParts
-                firstPart: root.postDate.firstDayPart
-                impossible: root.postDate.unsettled
-                onPartAsked: part => root.focusPart(part)
-                onMoved: columns => {
-                    if (columns === (root.rightToLeft ? -1 : 1))
-                        time.focusEdge(!root.rightToLeft);
-                }
-                onMovedToEnd: last => root.focusEnd(last)
-                onMonthAsked: root.openMonth(day)
+                isEntry: true
+                mirrored: root.mirrored
             }
 
             DateIconButton {
@@ -82,7 +71,7 @@ FocusScope {
                     if (month.opened)
                         month.close();
                     else
-                        root.openMonth(monthButton);
+                        root.openMonth(null);
                 }
 
                 MonthPopup {
@@ -90,10 +79,10 @@ FocusScope {
 
                     objectName: "monthPopup"
                     postDate: root.postDate
-                    rightToLeft: root.rightToLeft
+                    rightToLeft: root.mirrored
                     onClosed: {
-                        if (root.opener === day)
-                            day.focusPart(day.currentPart);
+                        if (root.opener)
+                            root.opener.askFocus();
                         else
                             monthButton.forceActiveFocus(Qt.PopupFocusReason);
                     }
@@ -109,23 +98,15 @@ FocusScope {
 
                 objectName: "timeParts"
                 parts: root.postDate.timeParts
-                firstPart: root.postDate.firstTimePart
-                impossible: root.postDate.unsettled
-                onPartAsked: part => root.focusPart(part)
-                onMoved: columns => {
-                    if (columns === (root.rightToLeft ? 1 : -1))
-                        day.focusEdge(root.rightToLeft);
-                }
-                onMovedToEnd: last => root.focusEnd(last)
-                onMonthAsked: root.openMonth(day)
+                mirrored: root.mirrored
             }
 
             DateStepper {
-                height: time.height
                 objectName: "timeStepper"
+                height: time.height
                 onStepped: by => {
-                    time.focusPart(time.currentPart);
-                    time.currentPart.step(by);
+                    root.postDate.currentTimePart.askFocus();
+                    root.postDate.currentTimePart.step(by);
                 }
             }
         }

@@ -13,8 +13,10 @@ Item {
     required property bool selected
     required property bool current
 
-    signal chosen
+    signal chosen(int row)
 
+    implicitWidth: Math.ceil(Theme.bodySize * 2.4)
+    implicitHeight: root.implicitWidth
     objectName: "monthDay" + root.index
     activeFocusOnTab: root.current || root.activeFocus
     enabled: root.dayText !== ""
@@ -26,14 +28,14 @@ Item {
     Accessible.focused: root.activeFocus
     Accessible.selectable: true
     Accessible.selected: root.selected
-    Accessible.onPressAction: root.chosen()
+    Accessible.onPressAction: root.chosen(root.index)
 
     HoverHandler {
         id: hover
     }
 
     TapHandler {
-        onTapped: root.chosen()
+        onTapped: root.chosen(root.index)
     }
 
     Rectangle {

@@ -3,9 +3,11 @@ import Tavlo
 
 // The short name of a weekday above its column. The days beneath say theirs in full.
 Text {
+    id: root
+
     required property string modelData
 
-    text: modelData
+    text: root.modelData
     textFormat: Text.PlainText
     font.pixelSize: Theme.captionSize
     horizontalAlignment: Text.AlignHCenter
