@@ -14,6 +14,8 @@ ApplicationWindow {
     title: "Tavlo"
     color: Theme.window
     font.pixelSize: Theme.bodySize
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
     ContentView {
         id: content
