@@ -18,6 +18,7 @@ Item {
     required property string text
     property alias font: label.font
     property alias color: label.color
+    property alias wrapMode: label.wrapMode
     // Whether a change is shown as a movement; otherwise it is done at once.
     property bool animated: false
     // The text on screen: it follows `text`.
@@ -59,6 +60,7 @@ Item {
         anchors.right: parent.right
         font: label.font
         color: label.color
+        wrapMode: label.wrapMode
         visible: transition.running
     }
 

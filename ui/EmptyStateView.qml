@@ -51,6 +51,8 @@ Item {
             text: qsTr("No blog posts yet.")
             font.pixelSize: Theme.title3Size
             color: Theme.secondaryText
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

@@ -68,6 +68,7 @@ Item {
             width: Math.min(implicitWidth, parent.width - date.width - Theme.spacing)
             text: root.post.permalink
             font.pixelSize: Theme.captionSize
+            wrapMode: Text.WrapAnywhere
             color: Theme.link
             animated: root.animated
         }

@@ -1,7 +1,8 @@
 #include "ui/PostListModel.h"
 
 #include "model/LongDate.h"
-#include "ui/ListDifference.h"
+
+#include <algorithm>
 
 void PostListModel::setViewModel(BlogViewModel *viewModel)
 {
@@ -14,6 +15,13 @@ void PostListModel::setViewModel(BlogViewModel *viewModel)
         connect(viewModel, &BlogViewModel::postsChanged, this, &PostListModel::follow);
     reset();
     emit viewModelChanged();
+}
+
+bool PostListModel::isNew(int row) const
+{
+    return std::any_of(m_newRows.cbegin(), m_newRows.cend(), [row](const ListStep &rows) {
+        return row >= rows.first && row < rows.first + rows.count;
+    });
 }
 
 int PostListModel::rowCount(const QModelIndex &parent) const
@@ -57,7 +65,9 @@ void PostListModel::applySteps()
     emit aboutToChange();
     m_before = m_posts;
     m_posts = m_viewModel->posts();
+    m_newRows.clear();
     m_boundary = m_before.size();
+    qsizetype stayed = m_before.size();
     const QList<ListStep> steps = listDifference(m_before, m_posts);
     for (const ListStep &step : steps) {
         const int first = static_cast<int>(step.first);
@@ -69,12 +79,16 @@ void PostListModel::applySteps()
             beginRemoveRows({}, first, last);
             m_boundary = first;
             m_rowCount -= step.count;
+            stayed -= step.count;
             endRemoveRows();
             break;
         case ListStep::Kind::Insert:
             m_boundary = first;
             beginInsertRows({}, first, last);
             m_rowCount += step.count;
+            m_newRows.append({.kind = step.kind,
+                              .first = m_posts.size() - (m_rowCount - first),
+                              .count = step.count});
             endInsertRows();
             break;
         case ListStep::Kind::Update:
@@ -87,9 +101,8 @@ void PostListModel::applySteps()
     const qsizetype oldCount = m_before.size();
     m_before.clear();
     announceCount(oldCount);
-    const bool oneInserted = steps.size() == 1 && steps.first().kind == ListStep::Kind::Insert
-        && steps.first().count == 1;
-    emit changed(oneInserted ? static_cast<int>(steps.first().first) : -1);
+    const bool oneInserted = steps.size() == 1 && m_newRows.size() == 1 && steps.first().count == 1;
+    emit changed(oneInserted ? static_cast<int>(steps.first().first) : -1, stayed == 0);
 }
 
 void PostListModel::reset()
@@ -98,6 +111,7 @@ void PostListModel::reset()
     beginResetModel();
     m_posts = m_viewModel ? m_viewModel->posts() : BlogPosts();
     m_rowCount = m_posts.size();
+    m_newRows.clear();
     endResetModel();
     announceCount(oldCount);
 }

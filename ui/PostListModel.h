@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/BlogViewModel.h"
+#include "ui/ListDifference.h"
 
 #include <QAbstractListModel>
 #include <QPointer>
@@ -33,6 +34,9 @@ public:
     int count() const { return static_cast<int>(m_posts.size()); }
     bool isEmpty() const { return m_posts.isEmpty(); }
 
+    /// Whether the last change put this row in.
+    Q_INVOKABLE bool isNew(int row) const;
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
@@ -46,8 +50,8 @@ signals:
     void aboutToChange();
 
     /// Sent after aboutToChange(), when all rows are in place. A change that did nothing but put
-    /// in one row tells which; any other gives -1.
-    void changed(int insertedRow);
+    /// in one row tells which; any other gives -1. `replaced` tells that no row has stayed.
+    void changed(int insertedRow, bool replaced);
 
 private:
     void follow();
@@ -59,6 +63,7 @@ private:
 
     QPointer<BlogViewModel> m_viewModel;
     BlogPosts m_posts;        ///< the rows shown, or to be shown when the steps are done
+    QList<ListStep> m_newRows; ///< the last change's insertions, counted in m_posts
     BlogPosts m_before;       ///< the rows shown before
     qsizetype m_boundary = 0; ///< rows above it are still those of m_before
     qsizetype m_rowCount = 0;

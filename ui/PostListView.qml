@@ -8,17 +8,23 @@ ListView {
 
     required property BlogViewModel viewModel
     readonly property bool empty: posts.empty
+    // Whether the last change may still be moving cards.
+    readonly property alias changing: change.running
     // Whether the list was last used by keys: only then does the focused card show a ring.
     property bool usedByKeys: false
     // Whether the change that is under way may take the focus from a card.
     property bool hadFocus: false
+    // Where the view was before the change that is under way.
+    property real placeBefore: 0
+    // Room below the last card in which the view comes down when cards have gone.
+    property real slack: 0
 
     // The card that had the focus has gone, and there is no other.
     signal focusLeft
 
     function clamped(position: real): real {
         const top = root.originY - root.topMargin;
-        const bottom = root.originY + root.contentHeight + root.bottomMargin - root.height;
+        const bottom = root.originY + root.contentHeight + Theme.padding - root.height;
         return Math.max(top, Math.min(position, bottom));
     }
 
@@ -117,6 +123,53 @@ ListView {
         root.contentY += first.y - before;
     }
 
+    function prepareForChange(): void {
+        root.hadFocus = root.activeFocus || menu.visible;
+        root.placeBefore = root.contentY;
+        change.restart();
+        settling.stop();
+        root.slack = root.contentHeight + root.height;
+    }
+
+    // Shows a change of the rows as one movement.
+    function showChange(insertedRow: int, replaced: bool): void {
+        root.forceLayout();
+        if (replaced && root.count > 0) {
+            scroll.stop();
+            root.contentY = root.originY - root.topMargin;
+        } else if (insertedRow >= 0) {
+            root.bringIntoSight(insertedRow);
+        }
+        root.settle();
+        root.moveCards(replaced && root.count > 0 ? root.contentY - root.placeBefore : 0);
+        if (root.hadFocus)
+            root.keepFocus();
+        else if (insertedRow >= 0)
+            root.currentIndex = insertedRow;
+    }
+
+    // Where cards have gone from the end, the view comes down to the last one that is left.
+    function settle(): void {
+        const excess = root.contentY - root.clamped(root.contentY);
+        root.slack = Math.max(0, excess);
+        if (excess > 0)
+            settling.start();
+    }
+
+    // Lets the new cards in sight arrive. The leaving ones keep their place on screen.
+    function moveCards(jump: real): void {
+        const items = root.contentItem.children;
+        for (let i = 0; i < items.length; ++i) {
+            const row = items[i] as PostRow;
+            if (!row)
+                continue;
+            if (row.index < 0)
+                row.shift += jump;
+            else if (posts.isNew(row.index))
+                row.arrive();
+        }
+    }
+
     function keepFocus(): void {
         if (root.count === 0) {
             root.focusLeft();
@@ -131,7 +184,8 @@ ListView {
     model: posts
     spacing: 12
     topMargin: Theme.padding
-    bottomMargin: Theme.padding
+    bottomMargin: Theme.padding + root.slack
+    cacheBuffer: Math.max(0, root.height)
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
@@ -167,8 +221,13 @@ ListView {
         animated: row.y + row.height > row.list.contentY && row.y < row.list.contentY + row.list.height
         focusShown: row.activeFocus && row.list.usedByKeys
         onFocusedByTab: row.list.focusRow(row.index)
+        // An empty list drops its rows at once, unless they hold on.
+        ListView.delayRemove: row.list.empty && row.list.changing
+        ListView.onRemove: {
+            if (row.list.empty)
+                row.leave();
+        }
         onMenuRequested: (x, y, byKey) => row.list.openMenu(row, x, y, byKey)
-        ListView.onAdd: row.arrive()
     }
 
     displaced: Transition {
@@ -182,11 +241,6 @@ ListView {
 
     remove: Transition {
         id: departure
-
-        PropertyAction {
-            property: "enabled"
-            value: false
-        }
 
         PropertyAction {
             property: "z"
@@ -221,14 +275,25 @@ ListView {
 
         viewModel: root.viewModel
         onDataChanged: root.keepPlace()
-        onAboutToChange: root.hadFocus = root.activeFocus || menu.visible
-        onChanged: insertedRow => {
-            root.forceLayout();
-            if (insertedRow >= 0)
-                root.bringIntoSight(insertedRow);
-            if (root.hadFocus)
-                root.keepFocus();
-        }
+        onAboutToChange: root.prepareForChange()
+        onChanged: (insertedRow, replaced) => root.showChange(insertedRow, replaced)
+    }
+
+    Timer {
+        id: change
+
+        interval: Theme.duration + 100
+    }
+
+    NumberAnimation {
+        id: settling
+
+        target: root
+        property: "slack"
+        to: 0
+        duration: Theme.duration
+        easing.type: Easing.Bezier
+        easing.bezierCurve: Theme.easeInOut
     }
 
     NumberAnimation {

@@ -16,6 +16,9 @@ FocusScope {
     // Whether a change of the post is shown as a movement.
     property bool animated: false
 
+    // How far the card stands below the row's place.
+    property real shift: 0
+
     signal focusedByTab
     signal menuRequested(real x, real y, bool byKey)
 
@@ -24,7 +27,16 @@ FocusScope {
         arrival.restart();
     }
 
+    // Lets it go down by its own height, while it fades out.
+    function leave(): void {
+        departure.restart();
+    }
+
     implicitHeight: card.height
+    // A leaving row takes no input.
+    enabled: root.index >= 0
+    // An arriving card comes up from behind the others.
+    z: arrival.running ? -1 : 0
 
     PostCardView {
         id: card
@@ -34,14 +46,14 @@ FocusScope {
         anchors.leftMargin: Theme.padding
         anchors.rightMargin: Theme.padding
         focus: true
-        activeFocusOnTab: root.current
+        activeFocusOnTab: root.current || card.activeFocus
         post: root.post
         viewModel: root.viewModel
         dateText: root.dateText
         focusShown: root.focusShown
         animated: root.animated
         transform: Translate {
-            id: rise
+            y: root.shift
         }
         onVisualFocusChanged: {
             if (card.visualFocus)
@@ -64,10 +76,32 @@ FocusScope {
         }
 
         NumberAnimation {
-            target: rise
-            property: "y"
+            target: root
+            property: "shift"
             from: card.height
             to: 0
+            duration: Theme.duration
+            easing.type: Easing.Bezier
+            easing.bezierCurve: Theme.easeInOut
+        }
+    }
+
+    ParallelAnimation {
+        id: departure
+
+        NumberAnimation {
+            target: card
+            property: "opacity"
+            to: 0
+            duration: Theme.duration
+            easing.type: Easing.Bezier
+            easing.bezierCurve: Theme.easeInOut
+        }
+
+        NumberAnimation {
+            target: root
+            property: "shift"
+            to: card.height
             duration: Theme.duration
             easing.type: Easing.Bezier
             easing.bezierCurve: Theme.easeInOut

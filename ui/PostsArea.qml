@@ -20,16 +20,9 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
-        visible: !list.empty || lastCards.running
+        // The list stays while its last cards leave.
+        visible: !list.empty || list.changing
         viewModel: root.viewModel
-        onEmptyChanged: lastCards.restart()
         onFocusLeft: root.focusLeft()
-    }
-
-    // The list stays while its last cards leave.
-    Timer {
-        id: lastCards
-
-        interval: Theme.duration
     }
 }
