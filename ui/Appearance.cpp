@@ -44,8 +44,10 @@ Appearance::Appearance(QObject *parent)
     : QObject(parent)
 {
     QCoreApplication::instance()->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &Appearance::updateDirection);
     updateDark();
     updateFontSize();
+    updateDirection();
     askPortal();
 }
 
@@ -119,4 +121,13 @@ void Appearance::updateFontSize()
         return;
     m_fontSize = size;
     emit fontSizeChanged();
+}
+
+void Appearance::updateDirection()
+{
+    const bool rightToLeft = QGuiApplication::isRightToLeft();
+    if (rightToLeft == m_rightToLeft)
+        return;
+    m_rightToLeft = rightToLeft;
+    emit rightToLeftChanged();
 }

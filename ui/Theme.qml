@@ -14,7 +14,7 @@ QtObject {
     readonly property color surface: root.dark ? "#2a2a2f" : "#ffffff"
     readonly property color field: root.dark ? "#1f1f23" : "#ffffff"
     readonly property color menu: root.dark ? "#313137" : "#ffffff"
-    readonly property color separator: root.dark ? "#3b3b42" : "#dddde3"
+    readonly property color separator: root.dark ? "#42424a" : "#dddde3"
     readonly property color scrim: root.dark ? "#8c000000" : "#59000000"
     readonly property color shadow: "#000000"
 

@@ -35,7 +35,6 @@ T.AbstractButton {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     verticalPadding: Theme.controlPadding
     horizontalPadding: 2 * Theme.controlPadding
-    spacing: 7
     hoverEnabled: true
     font.pixelSize: Theme.bodySize
     font.weight: Font.Medium
@@ -53,43 +52,11 @@ T.AbstractButton {
         button: root
     }
 
-    contentItem: Item {
-        id: content
-
-        readonly property real markWidth: mark.visible ? mark.width + row.spacing : 0
-
-        implicitWidth: content.markWidth + title.implicitWidth
-        implicitHeight: row.implicitHeight
-
-        Row {
-            id: row
-
-            anchors.centerIn: parent
-            spacing: root.spacing
-
-            Symbol {
-                id: mark
-
-                visible: root.symbol !== ""
-                name: root.symbol
-                color: root.ink
-                anchors.verticalCenter: parent.verticalCenter
-            }
-
-            Text {
-                id: title
-
-                objectName: "title"
-                width: Math.min(implicitWidth, root.availableWidth - content.markWidth)
-                text: root.text
-                font: root.font
-                color: root.ink
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                anchors.verticalCenter: parent.verticalCenter
-                Accessible.ignored: true
-            }
-        }
+    contentItem: ButtonLabel {
+        symbol: root.symbol
+        text: root.text
+        font: root.font
+        ink: root.ink
     }
 
     background: Rectangle {

@@ -25,6 +25,8 @@ AppMenu {
         root.openAt(root.field, cursor.x, cursor.y + cursor.height, true);
     }
 
+    objectName: "editMenu"
+
     AppMenuItem {
         objectName: "undoItem"
         text: qsTr("Undo")

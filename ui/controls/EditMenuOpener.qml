@@ -20,7 +20,11 @@ MouseArea {
     }
 
     function menu(): EditMenu {
-        loader.active = true;
+        if (loader.item === null) {
+            loader.setSource("EditMenu.qml", {
+                    "field": root.field
+                });
+        }
         return loader.item as EditMenu;
     }
 
@@ -31,11 +35,5 @@ MouseArea {
 
     Loader {
         id: loader
-
-        active: false
-        sourceComponent: EditMenu {
-            objectName: "editMenu"
-            field: root.field
-        }
     }
 }

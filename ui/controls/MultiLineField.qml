@@ -17,7 +17,7 @@ FocusScope {
     // Takes in what an input method has not committed yet.
     function commit(): void {
         if (area.activeFocus)
-            Qt.inputMethod.commit();
+            Composition.commit();
     }
 
     function load(): void {

@@ -9,13 +9,25 @@ T.TextField {
     // What the field is for. The form draws it; here it is the name for assistive tools.
     property string label: ""
 
+    // While the text scrolls: it moves the cursor's rectangle, which would scroll it again.
+    property bool scrolling: false
+
     // Takes in what an input method has not committed yet.
     function commit(): void {
         if (root.activeFocus)
-            Qt.inputMethod.commit();
+            Composition.commit();
     }
 
-    implicitWidth: Math.max(contentWidth, placeholder.implicitWidth, 12 * Theme.bodySize) + leftPadding + rightPadding
+    // A long text is seen from its start, unless the cursor is in it.
+    function showStart(): void {
+        if (root.scrolling || root.activeFocus || opener.opened)
+            return;
+        root.scrolling = true;
+        root.ensureVisible(0);
+        root.scrolling = false;
+    }
+
+    implicitWidth: Math.max(placeholder.implicitWidth, 12 * Theme.bodySize) + leftPadding + rightPadding
     implicitHeight: Math.max(contentHeight, placeholder.implicitHeight) + topPadding + bottomPadding
     padding: Theme.controlPadding
     leftPadding: Theme.controlPadding + 3
@@ -33,6 +45,14 @@ T.TextField {
     Accessible.name: root.label
     Accessible.description: root.placeholderText
     Keys.onPressed: event => opener.takeKey(event)
+
+    onActiveFocusChanged: {
+        if (root.activeFocus)
+            root.ensureVisible(root.cursorPosition);
+        else
+            root.showStart();
+    }
+    onCursorRectangleChanged: root.showStart()
 
     EditMenuOpener {
         id: opener

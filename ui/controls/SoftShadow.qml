@@ -10,18 +10,11 @@ Item {
     anchors.fill: parent
 
     Repeater {
-        model: 10
-
-        Rectangle {
-            required property int index
-
-            x: -index
-            y: 2 - index * 0.7
-            width: root.width + 2 * index
-            height: root.height + 2 * index * 0.85
-            radius: root.radius + index
-            color: Theme.shadow
-            opacity: Theme.dark ? 0.05 : 0.018
+        // The corner radius of each ring, from the inside out.
+        model: Array.from({
+                "length": 10
+            }, (_, width) => root.radius + width)
+        delegate: SoftShadowRing {
         }
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.impl
 import Tavlo
 
-// One of the program's symbols, by its name, drawn in one colour.
+// One of the program's symbols, by its name, drawn in one colour. All are square.
 Item {
     id: root
 
@@ -16,7 +16,7 @@ Item {
 
     IconImage {
         anchors.fill: parent
-        sourceSize: Qt.size(root.size, root.size)
+        sourceSize.width: root.size
         source: root.name === "" ? "" : "../symbols/" + root.name + ".svg"
         color: root.color
     }

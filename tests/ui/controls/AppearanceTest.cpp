@@ -129,6 +129,16 @@ TEST(Font, isFollowedLive)
     EXPECT_TRUE(QTest::qWaitFor([&] { return appearance.fontSize() == 26; }));
 }
 
+TEST(Direction, isFollowedLive)
+{
+    const Appearance appearance;
+    EXPECT_FALSE(appearance.rightToLeft());
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return appearance.rightToLeft(); }));
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !appearance.rightToLeft(); }));
+}
+
 TEST(Portal, saysDarkOverALightPalette)
 {
     setPalette(Qt::white, Qt::black);

@@ -294,6 +294,22 @@ Item {
             compare(field.effectiveHorizontalAlignment, TextInput.AlignRight);
         }
 
+        function test_longText_isSeenFromItsStart_untilTheCursorIsInIt(): void {
+            const text = "many words ".repeat(100);
+            after.forceActiveFocus();
+            field.text = text;
+            compare(field.positionAt(0, 10), 0);
+            field.width = 250;
+            compare(field.positionAt(0, 10), 0);
+            field.width = 300;
+            compare(field.positionAt(0, 10), 0);
+            field.forceActiveFocus();
+            compare(field.cursorPosition, text.length);
+            verify(field.positionAt(field.width, 10) >= text.length - 1);
+            after.forceActiveFocus();
+            compare(field.positionAt(0, 10), 0);
+        }
+
         function test_height_growsWithTheText(): void {
             const height = field.implicitHeight;
             Assistive.setFontSize(26);

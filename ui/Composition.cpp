@@ -1,0 +1,9 @@
+#include "ui/Composition.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+
+void Composition::commit() const
+{
+    QGuiApplication::inputMethod()->commit();
+}

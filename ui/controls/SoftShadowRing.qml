@@ -1,0 +1,20 @@
+import QtQuick
+import Tavlo
+
+// One of the rings that add up to a soft shadow, each wider than the one before. They lean
+// downwards a little, as if the light came from above.
+Rectangle {
+    id: root
+
+    required property int index
+    required property real modelData
+
+    anchors.fill: parent
+    anchors.leftMargin: -root.index
+    anchors.rightMargin: -root.index
+    anchors.topMargin: 2 - root.index * 0.7
+    anchors.bottomMargin: -2 - root.index
+    radius: root.modelData
+    color: Theme.shadow
+    opacity: Theme.dark ? 0.05 : 0.018
+}
