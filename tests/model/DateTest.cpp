@@ -86,7 +86,7 @@ TEST(Date, wholeSeconds_outsideEveryCalendar_areTheNearestInsideOne)
 {
     const qint64 last = Date(1e15).wholeSecondsOfUnixTime();
     const qint64 first = Date(-1e15).wholeSecondsOfUnixTime();
-    constexpr qint64 millionYears = qint64(1e6 * 365.25 * 86400);
+    constexpr auto millionYears = qint64(1e6 * 365.25 * 86400);
     EXPECT_GT(last, 5 * millionYears);
     EXPECT_LT(first, -5 * millionYears);
     for (const double seconds : {1e19, 1e300, Limits::max(), Limits::infinity()}) {
