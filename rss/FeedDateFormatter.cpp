@@ -21,10 +21,11 @@ UDate milliseconds(qint64 unixTime)
 
 qint64 floorDivide(qint64 dividend, qint64 divisor)
 {
-    return dividend / divisor - (dividend % divisor < 0);
+    return dividend / divisor - (dividend % divisor < 0 ? 1 : 0);
 }
 
-std::unique_ptr<icu::SimpleDateFormat> makeFormat(const char16_t *pattern, const icu::Locale &locale,
+std::unique_ptr<icu::SimpleDateFormat> makeFormat(const char16_t *pattern,
+                                                  const icu::Locale &locale,
                                                   const icu::TimeZone &zone)
 {
     UErrorCode status = U_ZERO_ERROR;
@@ -95,16 +96,16 @@ const FeedDateFormatter::Offset &FeedDateFormatter::offsetAt(qint64 unixTime)
     };
     icu::TimeZoneTransition transition;
     qint64 begin = std::numeric_limits<qint64>::min();
-    if (m_zone->getPreviousTransition(milliseconds(unixTime), true, transition))
+    if (m_zone->getPreviousTransition(milliseconds(unixTime), UBool(true), transition))
         begin = secondsOf(transition);
     qint64 end = std::numeric_limits<qint64>::max();
-    if (m_zone->getNextTransition(milliseconds(unixTime), false, transition))
+    if (m_zone->getNextTransition(milliseconds(unixTime), UBool(false), transition))
         end = secondsOf(transition);
 
     int32_t raw = 0;
     int32_t daylightSaving = 0;
     UErrorCode status = U_ZERO_ERROR;
-    m_zone->getOffset(milliseconds(unixTime), false, raw, daylightSaving, status);
+    m_zone->getOffset(milliseconds(unixTime), UBool(false), raw, daylightSaving, status);
     const std::string whole = formatWhole(unixTime);
     return m_offsets[begin] = {end, (raw + daylightSaving) / U_MILLIS_PER_SECOND,
                                whole.substr(whole.size() - 6)};

@@ -31,8 +31,8 @@ private:
     /// A stretch of time in which the zone keeps one offset from UTC, in seconds of Unix time.
     struct Offset
     {
-        qint64 end; ///< the first second that is not in it any more
-        qint64 seconds;
+        qint64 end = 0; ///< the first second that is not in it any more
+        qint64 seconds = 0;
         std::string text; ///< a blank, a sign and four digits
     };
 
