@@ -15,7 +15,10 @@ struct TypedPath
     const char *typed;
     const char *folder = ".";
 
-    friend void PrintTo(const TypedPath &path, std::ostream *out) { *out << path.typed; }
+    friend std::ostream &operator<<(std::ostream &out, const TypedPath &path)
+    {
+        return out << path.typed;
+    }
 };
 
 } // namespace

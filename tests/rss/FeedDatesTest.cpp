@@ -31,9 +31,9 @@ struct WrittenDate
     const char *instant;
     const char *text;
 
-    friend void PrintTo(const WrittenDate &date, std::ostream *out)
+    friend std::ostream &operator<<(std::ostream &out, const WrittenDate &date)
     {
-        *out << date.instant << " in " << date.locale << ", " << date.timeZone;
+        return out << date.instant << " in " << date.locale << ", " << date.timeZone;
     }
 };
 
@@ -208,7 +208,7 @@ public:
         const auto &zone = dynamic_cast<const icu::BasicTimeZone &>(m_format.getTimeZone());
         icu::TimeZoneTransition change;
         double after = -1e13;
-        while (zone.getNextTransition(after, false, change) && change.getTime() < 4.1e12) {
+        while (zone.getNextTransition(after, UBool(false), change) && change.getTime() < 4.1e12) {
             after = change.getTime();
             changes.push_back(qint64(after / 1000) - 978'307'200);
         }
@@ -282,8 +282,9 @@ TEST(FeedDate, inEveryLocaleAndZone_isWhatThePatternsOwnEngineWrites)
             const DateRegion region{locale, timeZone};
             const PlainFormat plain(region);
             FeedDateFormatter formatter(region);
-            for (double date = -250.0 * year; date < 250.0 * year; date += 7.3 * year)
-                ASSERT_EQ(formatter.format(Date(date)), plain(date)) << locale << ' ' << timeZone;
+            for (qint64 date = -250 * year; date < 250 * year; date += 7 * year + year / 3)
+                ASSERT_EQ(formatter.format(Date(double(date))), plain(double(date)))
+                    << locale << ' ' << timeZone;
         }
     }
 }

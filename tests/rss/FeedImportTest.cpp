@@ -165,7 +165,7 @@ TEST(FeedImport, theNextItem_isSearchedBehindTheEndTag)
 TEST(FeedImport, otherSpellings_areNotItems)
 {
     for (const auto item :
-         {"<item id=\"1\">A</item>"sv, "<ITEM>A</ITEM>"sv, "<Item>A</Item>"sv, "<item >A</item>"sv,
+         {R"(<item id="1">A</item>)"sv, "<ITEM>A</ITEM>"sv, "<Item>A</Item>"sv, "<item >A</item>"sv,
           "< item>A</item>"sv, "<item\n>A</item>"sv, "<item>A</ITEM>"sv, "<item>A</item >"sv,
           "<item/>"sv, "<rss:item>A</rss:item>"sv, "<items>A</items>"sv, "&lt;item&gt;A</item>"sv,
           "<item\0>A</item>"sv})
@@ -175,11 +175,11 @@ TEST(FeedImport, otherSpellings_areNotItems)
 TEST(FeedImport, otherSpellings_areNotElements)
 {
     for (const char *title : {"<Title>A</Title>", "<TITLE>A</TITLE>", "<title >A</title>",
-                              "<title type=\"html\">A</title>", "<media:title>A</media:title>",
+                              R"(<title type="html">A</title>)", "<media:title>A</media:title>",
                               "<title/>", "<title>A</Title>", "<title>A< /title>",
-                              "<title>A</title >", "<titles>A</titles>", "<link href=\"A\"/>"})
+                              "<title>A</title >", "<titles>A</titles>", R"(<link href="A"/>)"})
         EXPECT_EQ(titleOf(title), QString()) << title;
-    EXPECT_EQ(titleOf("<title lang=\"en\">A</title><title>B</title>"), u"B"_s);
+    EXPECT_EQ(titleOf(R"(<title lang="en">A</title><title>B</title>)"), u"B"_s);
     EXPECT_EQ(titleOf("<title/><title>B</title>"), u"B"_s);
     EXPECT_EQ(titleOf("<<title>>A<</title>"), u">A<"_s);
 }

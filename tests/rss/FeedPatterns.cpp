@@ -15,7 +15,7 @@ QRegularExpression elementPattern(const QString &tag)
 QRegularExpressionMatch matchOf(const QRegularExpression &pattern, const QString &text,
                                 qsizetype from = 0)
 {
-    const QRegularExpressionMatch match = pattern.match(text, from);
+    QRegularExpressionMatch match = pattern.match(text, from);
     // Also where the engine came to a limit of its own.
     if (!match.isValid())
         throw EngineGaveUp();

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "model/BlogPost.h"
+#include "tests/support/Printers.h"
 
 #include <QString>
 
+#include <ostream>
 #include <stdexcept>
 #include <vector>
 
@@ -18,6 +20,15 @@ struct FoundItem
     QString description;
 
     friend bool operator==(const FoundItem &, const FoundItem &) = default;
+
+    friend std::ostream &operator<<(std::ostream &out, const FoundItem &item)
+    {
+        for (const QString &text : {item.title, item.permalink, item.description}) {
+            PrintTo(text, &out);
+            out << ' ';
+        }
+        return out;
+    }
 };
 
 /// The engine did not come to an end, so nothing is known of what there is to find.

@@ -10,17 +10,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include <ostream>
-
 using namespace Qt::StringLiterals;
-
-static void showValue(const FoundItem &item, std::ostream &out)
-{
-    for (const QString &text : {item.title, item.permalink, item.description}) {
-        PrintTo(text, &out);
-        out << ' ';
-    }
-}
 
 namespace {
 

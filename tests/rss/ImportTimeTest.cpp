@@ -2,14 +2,16 @@
 #include "rss/RSSFeedImporter.h"
 
 #include <gtest/gtest.h>
-#include <time.h>
 
 #include <algorithm>
+#include <ctime>
 #include <limits>
 #include <ostream>
 #include <string>
 
-/// AddressSanitizer would look over the whole rest of a file at each search in it.
+/// AddressSanitizer would look over the whole rest of a file at each search in it. The name is
+/// its own.
+// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming)
 extern "C" const char *__asan_default_options()
 {
     return "intercept_memmem=0";
@@ -86,7 +88,10 @@ struct Trap
 
     std::string feed(std::size_t bytes) const { return begin + repeated(piece, bytes) + end; }
 
-    friend void PrintTo(const Trap &trap, std::ostream *out) { *out << trap.name; }
+    friend std::ostream &operator<<(std::ostream &out, const Trap &trap)
+    {
+        return out << trap.name;
+    }
 };
 
 } // namespace

@@ -15,14 +15,6 @@
 
 using namespace Qt::StringLiterals;
 
-static void PrintTo(const FoundItem &item, std::ostream *out)
-{
-    for (const QString &text : {item.title, item.permalink, item.description}) {
-        PrintTo(text, out);
-        *out << ' ';
-    }
-}
-
 namespace {
 
 struct SampleFeed
@@ -33,7 +25,10 @@ struct SampleFeed
 
     QString path() const { return QString::fromUtf8(folder) + u'/' + QString::fromUtf8(name); }
 
-    friend void PrintTo(const SampleFeed &feed, std::ostream *out) { *out << feed.name; }
+    friend std::ostream &operator<<(std::ostream &out, const SampleFeed &feed)
+    {
+        return out << feed.name;
+    }
 };
 
 QString textOf(const QString &path)
@@ -43,7 +38,7 @@ QString textOf(const QString &path)
     QStringDecoder decoder(QStringDecoder::Utf8,
                            QStringDecoder::Flag::ConvertInitialBom
                                | QStringDecoder::Flag::Stateless);
-    const QString text = decoder(file.readAll());
+    QString text = decoder(file.readAll());
     EXPECT_FALSE(decoder.hasError()) << path.toStdString();
     return text;
 }
