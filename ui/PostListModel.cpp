@@ -31,7 +31,7 @@ int PostListModel::rowCount(const QModelIndex &parent) const
 
 QVariant PostListModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!index.isValid() || index.row() >= m_rowCount)
         return {};
     const BlogPost &post = postAt(index.row());
     switch (role) {

@@ -62,10 +62,10 @@ private:
     const BlogPost &postAt(qsizetype row) const;
 
     QPointer<BlogViewModel> m_viewModel;
-    BlogPosts m_posts;        ///< the rows shown, or to be shown when the steps are done
+    BlogPosts m_posts;         ///< the rows shown, or to be shown when the steps are done
     QList<ListStep> m_newRows; ///< the last change's insertions, counted in m_posts
-    BlogPosts m_before;       ///< the rows shown before
-    qsizetype m_boundary = 0; ///< rows above it are still those of m_before
+    BlogPosts m_before;        ///< the rows shown before
+    qsizetype m_boundary = 0;  ///< rows above it are still those of m_before
     qsizetype m_rowCount = 0;
     bool m_following = false;
 };

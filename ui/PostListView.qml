@@ -312,6 +312,8 @@ ListView {
 
         property blogPost post
 
+        objectName: "cardMenu"
+
         AppMenuItem {
             text: qsTr("Edit Post")
             onTriggered: PostActions.edit(menu.post)

@@ -18,6 +18,7 @@ FocusScope {
     PostListView {
         id: list
 
+        objectName: "postList"
         anchors.fill: parent
         focus: true
         // The list stays while its last cards leave.

@@ -2,9 +2,9 @@ import QtQuick
 import Tavlo
 
 // A soft shadow of radius 2, without offset, around the card that it fills. It is laid up from
-// translucent plates, each a little smaller, which are sharp at every scale and fit a card of any
+// translucent frames, each a little narrower, which are sharp at every scale and fit a card of any
 // height. At the card's edge they add up to half of the full strength, 0.33, as any blurred edge
-// does; the card hides the rest.
+// does. Frames, not plates: nothing dark shows through a card that fades.
 Item {
     id: root
 
@@ -16,7 +16,9 @@ Item {
         anchors.fill: parent
         anchors.margins: -3
         radius: root.radius + 3
-        color: Theme.shadow
+        color: "transparent"
+        border.width: 4
+        border.color: Theme.shadow
         opacity: 0.015
         antialiasing: true
     }
@@ -25,7 +27,9 @@ Item {
         anchors.fill: parent
         anchors.margins: -2
         radius: root.radius + 2
-        color: Theme.shadow
+        color: "transparent"
+        border.width: 3
+        border.color: Theme.shadow
         opacity: 0.03
         antialiasing: true
     }
@@ -34,7 +38,9 @@ Item {
         anchors.fill: parent
         anchors.margins: -1.25
         radius: root.radius + 1.25
-        color: Theme.shadow
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.shadow
         opacity: 0.05
         antialiasing: true
     }
@@ -43,7 +49,9 @@ Item {
         anchors.fill: parent
         anchors.margins: -0.5
         radius: root.radius + 0.5
-        color: Theme.shadow
+        color: "transparent"
+        border.width: 1
+        border.color: Theme.shadow
         opacity: 0.08
         antialiasing: true
     }
