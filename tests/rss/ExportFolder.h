@@ -68,6 +68,12 @@ protected:
         return status;
     }
 
+    /// Makes a symbolic link in the folder that says `target`.
+    void makeLink(const char *name, const QByteArray &target) const
+    {
+        ASSERT_EQ(symlink(target, encoded(name)), 0) << name;
+    }
+
     /// What a symbolic link in the folder says.
     QByteArray linkTarget(const char *name) const
     {

@@ -272,15 +272,21 @@ TEST_F(FeedImportOperation, ofWhatIsNoReadableFile_printsTheLineAndChangesNothin
     home.write(u"file"_s, threeItems);
     const auto encoded = [this](const QString &name) { return QFile::encodeName(home.path(name)); };
     ASSERT_EQ(mkfifo(encoded(u"pipe"_s), 0600), 0);
-    ASSERT_EQ(symlink("pipe", encoded(u"link to pipe"_s)), 0);
-    ASSERT_EQ(symlink("nothing", encoded(u"link to nothing"_s)), 0);
-    ASSERT_EQ(symlink("link to itself", encoded(u"link to itself"_s)), 0);
+    for (const auto &[target, link] :
+         {std::pair("pipe", u"link to pipe"_s), std::pair("nothing", u"link to nothing"_s),
+          std::pair("link to itself", u"link to itself"_s)})
+        ASSERT_EQ(symlink(target, encoded(link)), 0);
     for (const QString &name :
          {u"missing.xml"_s, u"missing/feed.xml"_s, u"folder"_s, u"folder/"_s, u"file/feed.xml"_s,
           u"pipe"_s, u"link to pipe"_s, u"link to nothing"_s, u"link to itself"_s}) {
         EXPECT_EQ(outputOfImport(url(name)), failureLine) << name.toStdString();
         expectThatNothingChanges();
     }
+}
+
+TEST_F(FeedImportOperation, ofWhatIsNoFileUrl_printsTheLineAndChangesNothing)
+{
+    home.write(u"file"_s, threeItems);
     const QString nul = home.path(u"file"_s) + QChar::Null;
     for (const QUrl &address :
          {QUrl(), QUrl(u"https://example.com/feed.xml"_s), QUrl(u"file:///"_s),
