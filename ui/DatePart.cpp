@@ -47,7 +47,7 @@ int DatePart::minimum() const
     switch (m_field.field) {
     case DateField::Hour: {
         const HourCycle cycle = m_owner->m_words.hourCycle();
-        return cycle == HourCycle::k || cycle == HourCycle::h ? 1 : 0;
+        return cycle == HourCycle::From1To24 || cycle == HourCycle::From12To11 ? 1 : 0;
     }
     case DateField::Minute:
     case DateField::DayPeriod:
@@ -194,7 +194,7 @@ void DatePart::leave()
 bool DatePart::isTwelveHours() const
 {
     const HourCycle cycle = m_owner->m_words.hourCycle();
-    return cycle == HourCycle::h || cycle == HourCycle::K;
+    return cycle == HourCycle::From12To11 || cycle == HourCycle::From0To11;
 }
 
 int DatePart::numberOfHour(int hour) const

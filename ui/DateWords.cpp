@@ -40,7 +40,7 @@ QString digitsOf(const icu::Locale &locale)
         icu::NumberingSystem::createInstance(locale, status));
     if (U_SUCCESS(status) && system && !system->isAlgorithmic() && system->getRadix() == 10) {
         // Digits beyond the first plane, each of two code units, are left to the Latin ones.
-        if (const QString digits = toQString(system->getDescription()); digits.size() == 10)
+        if (QString digits = toQString(system->getDescription()); digits.size() == 10)
             return digits;
     }
     return QStringLiteral("0123456789");
@@ -280,17 +280,15 @@ DateWords::DateWords(const std::string &locale)
 }
 
 DateWords::~DateWords() = default;
-DateWords::DateWords(DateWords &&) noexcept = default;
-DateWords &DateWords::operator=(DateWords &&) noexcept = default;
 
 QList<FieldInPattern> DateWords::dateFields() const
 {
-    return fieldsOf(m_locale->datePattern, *this, m_locale->locale.isRightToLeft());
+    return fieldsOf(m_locale->datePattern, *this, m_locale->locale.isRightToLeft() != 0);
 }
 
 QList<FieldInPattern> DateWords::timeFields() const
 {
-    return fieldsOf(m_locale->timePattern, *this, m_locale->locale.isRightToLeft());
+    return fieldsOf(m_locale->timePattern, *this, m_locale->locale.isRightToLeft() != 0);
 }
 
 HourCycle DateWords::hourCycle() const
@@ -298,16 +296,16 @@ HourCycle DateWords::hourCycle() const
     for (const QChar letter : m_locale->timePattern) {
         switch (letter.unicode()) {
         case u'k':
-            return HourCycle::k;
+            return HourCycle::From1To24;
         case u'h':
-            return HourCycle::h;
+            return HourCycle::From12To11;
         case u'K':
-            return HourCycle::K;
+            return HourCycle::From0To11;
         default:
             break;
         }
     }
-    return HourCycle::H;
+    return HourCycle::From0To23;
 }
 
 QString DateWords::number(int number, int digits) const
@@ -355,7 +353,7 @@ QStringList DateWords::weekdays() const
     int count = 0;
     UErrorCode status = U_ZERO_ERROR;
     const int firstDay = m_locale->calendar->getFirstDayOfWeek(status);
-    const QStringList names = rotatedWeek(
+    QStringList names = rotatedWeek(
         m_locale->symbols.getWeekdays(count, Symbols::STANDALONE, Symbols::SHORT), firstDay);
     const bool isNarrow = std::all_of(names.begin(), names.end(),
                                       [](const QString &name) { return name.size() <= widest; });

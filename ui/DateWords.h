@@ -12,12 +12,12 @@
 /// The pieces of a date and a time of day that are edited one by one.
 enum class DateField { Year, Month, Day, Hour, Minute, DayPeriod };
 
-/// How a locale counts the hours, named as in date patterns (UTS #35).
+/// How a locale counts the hours.
 enum class HourCycle {
-    H, ///< 0 to 23
-    k, ///< 1 to 24
-    h, ///< 12, 1 to 11, with morning and afternoon
-    K, ///< 0 to 11, with morning and afternoon
+    From0To23,
+    From1To24,
+    From12To11, ///< 12, then 1 to 11, with morning and afternoon
+    From0To11,  ///< with morning and afternoon
 };
 
 /// One field of a locale's short date or time pattern.
@@ -37,8 +37,7 @@ public:
     /// locale: name as Unicode's ICU knows it.
     explicit DateWords(const std::string &locale);
     ~DateWords();
-    DateWords(DateWords &&) noexcept;
-    DateWords &operator=(DateWords &&) noexcept;
+    Q_DISABLE_COPY_MOVE(DateWords)
 
     /// The fields of the short date, as they stand on screen from left to right.
     QList<FieldInPattern> dateFields() const;

@@ -105,10 +105,11 @@ public:
     /// Seconds east of Greenwich at an instant in Unix time.
     qint64 offsetAt(qint64 unixTime) const
     {
+        constexpr UBool isLocal = 0;
         UErrorCode status = U_ZERO_ERROR;
         std::int32_t standard = 0;
         std::int32_t saving = 0;
-        m_zone->getOffset(static_cast<UDate>(unixTime) * U_MILLIS_PER_SECOND, false, standard,
+        m_zone->getOffset(static_cast<UDate>(unixTime) * U_MILLIS_PER_SECOND, isLocal, standard,
                           saving, status);
         return toSeconds(standard, saving);
     }
@@ -143,8 +144,6 @@ LocalClock::LocalClock(const std::string &timeZone)
 }
 
 LocalClock::~LocalClock() = default;
-LocalClock::LocalClock(LocalClock &&) noexcept = default;
-LocalClock &LocalClock::operator=(LocalClock &&) noexcept = default;
 
 std::optional<LocalMinute> LocalClock::minuteAt(Date date) const
 {

@@ -51,8 +51,7 @@ public:
     /// timeZone: name from the IANA time zone database.
     explicit LocalClock(const std::string &timeZone);
     ~LocalClock();
-    LocalClock(LocalClock &&) noexcept;
-    LocalClock &operator=(LocalClock &&) noexcept;
+    Q_DISABLE_COPY_MOVE(LocalClock)
 
     /// Nothing where no calendar day reaches: NaN, the infinities and all years but 1 to 9999.
     std::optional<LocalMinute> minuteAt(Date date) const;

@@ -42,6 +42,10 @@ FocusScope {
         if (!root.activeFocus)
             root.postDate.settle();
     }
+    onEnabledChanged: {
+        if (!root.enabled)
+            month.close();
+    }
 
     Flow {
         id: flow

@@ -258,6 +258,13 @@ Item {
             tryVerify(() => test.field.popupOpen);
         }
 
+        function test_closesWithAFormThatTakesNoMoreInput(): void {
+            test.openMonth("en_US");
+            test.field.enabled = false;
+            tryVerify(() => !test.field.popupOpen);
+            compare(DateHand.secondsOf(test.date), DateHand.utc(2026, 1, 31, 14, 30, 17.25));
+        }
+
         function test_nothingIsTakenTwice(): void {
             test.openMonth("en_US");
             const day = test.dayNamed("Friday, January 2, 2026");
