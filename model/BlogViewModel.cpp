@@ -116,8 +116,8 @@ void BlogViewModel::deletePost(const std::set<qsizetype> &at)
             endForPositionOutsideList(position, m_posts.size());
     }
     emit objectWillChange();
-    for (auto position = at.crbegin(); position != at.crend(); ++position)
-        m_posts.removeAt(*position);
+    std::for_each(at.crbegin(), at.crend(),
+                  [this](qsizetype position) { m_posts.removeAt(position); });
     emit postsChanged();
     savePosts();
 }

@@ -153,8 +153,11 @@ std::optional<Date> readDate(value json)
 BlogPost readPost(object json)
 {
     std::optional<QUuid> id;
+    std::optional<QString> title;
+    std::optional<QString> content;
     std::optional<Date> date;
-    std::optional<QString> title, content, description, permalink;
+    std::optional<QString> description;
+    std::optional<QString> permalink;
     for (auto field : json) {
         const std::string_view key = field.unescaped_key();
         if (key == "id")
@@ -184,7 +187,9 @@ BlogPost readPost(object json)
 
 RSSSettings readSettings(object json)
 {
-    std::optional<QString> title, link, description;
+    std::optional<QString> title;
+    std::optional<QString> link;
+    std::optional<QString> description;
     for (auto field : json) {
         const std::string_view key = field.unescaped_key();
         if (key == "title")
