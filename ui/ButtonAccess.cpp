@@ -74,7 +74,7 @@ public:
     {
         QAccessible::State state;
         state.disabled = !button()->isEnabled();
-        state.invisible = !button()->isVisible() || !button()->window();
+        state.invisible = !button()->isVisible() || button()->window() == nullptr;
         state.focusable = button()->activeFocusOnTab();
         state.focused = button()->hasActiveFocus();
         state.pressed = button()->property("down").toBool();
@@ -119,7 +119,7 @@ private:
 
 QAccessibleInterface *makeButtonAccess(const QString &, QObject *object)
 {
-    if (!object || !object->inherits("QQuickAbstractButton"))
+    if (object == nullptr || !object->inherits("QQuickAbstractButton"))
         return nullptr;
     QObject *accessible = accessibleOf(object);
     if (!accessible || accessible->property("ignored").toBool())

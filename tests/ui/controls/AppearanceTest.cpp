@@ -12,7 +12,9 @@
 
 namespace {
 
-enum : uint { noPreference = 0, preferDark = 1, preferLight = 2 };
+constexpr uint noPreference = 0;
+constexpr uint preferDark = 1;
+constexpr uint preferLight = 2;
 
 void setPalette(Qt::GlobalColor window, Qt::GlobalColor text)
 {
@@ -31,6 +33,7 @@ class FakePortal : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+    Q_DISABLE_COPY_MOVE(FakePortal)
 
 public:
     FakePortal()
@@ -69,7 +72,7 @@ public slots:
     }
 
 signals:
-    // NOLINTNEXTLINE(readability-identifier-naming): the name on the bus
+    // NOLINTNEXTLINE(readability-*): the name on the bus, and moc's names of the arguments
     void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
