@@ -15,14 +15,15 @@ FocusScope {
     // The post to edit; undefined to write a new one.
     property var editingPost: undefined
 
-    readonly property PostDraft draft: PostDraft {}
+    readonly property PostDraft draft: PostDraft {
+    }
     readonly property bool canSave: root.isPresented && root.draft.complete
 
     // The owner is to set its isPresented to false.
     signal dismissed
 
     function save(): void {
-        descriptionField.commit();
+        Composition.commit();
         root.takeTexts();
         if (!root.canSave)
             return;
@@ -118,7 +119,8 @@ FocusScope {
                 id: dateField
 
                 objectName: "dateField"
-                postDate: PostDate {}
+                postDate: PostDate {
+                }
                 label: qsTr("Date")
                 Layout.fillWidth: true
             }

@@ -11,13 +11,14 @@ FocusScope {
     // Whether the owner shows the form. False while it leaves, when it takes no input any more.
     property bool isPresented: true
 
-    readonly property SettingsDraft draft: SettingsDraft {}
+    readonly property SettingsDraft draft: SettingsDraft {
+    }
 
     // The owner is to set its isPresented to false.
     signal dismissed
 
     function save(): void {
-        Qt.inputMethod.commit();
+        Composition.commit();
         if (!root.isPresented)
             return;
         root.draft.saveTo(root.viewModel);

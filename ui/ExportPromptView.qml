@@ -14,12 +14,12 @@ FocusScope {
     // A line that says what went wrong; undefined for none.
     property var exportError: undefined
 
-    signal exportPathEdited(path: string)
+    signal exportPathEdited(string path)
     signal exportRequested
     signal dismissed
 
     function requestExport(): void {
-        Qt.inputMethod.commit();
+        Composition.commit();
         if (root.isPresented)
             root.exportRequested();
     }
