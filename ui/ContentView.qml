@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Tavlo
@@ -11,7 +12,8 @@ Item {
     property bool showingEditor: false
     property bool showingSettings: false
     // Names this view's elements for shared transitions. None uses it yet.
-    property QtObject animation: QtObject {}
+    property QtObject animation: QtObject {
+    }
     property bool showingExportPrompt: false
     property string exportPath: ""
     // An error line for the export prompt; undefined for none.
@@ -20,7 +22,8 @@ Item {
     property var editingPost: undefined
 
     // The store of a view that was given none. It is made when the view first asks for it.
-    readonly property OwnedStore ownStore: OwnedStore {}
+    readonly property OwnedStore ownStore: OwnedStore {
+    }
     readonly property bool sheetOnScreen: editorSheet.visible || settingsSheet.visible || exportSheet.visible
     // The least size that holds the header and the largest sheet below it.
     readonly property int leastWidth: editorSheet.width + 2 * Theme.padding

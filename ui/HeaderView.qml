@@ -39,7 +39,8 @@ Rectangle {
 
             Image {
                 source: "rss-logo.svg"
-                sourceSize: Qt.size(32, 32)
+                sourceSize.width: 32
+                sourceSize.height: 32
                 Accessible.ignored: true
                 Layout.preferredWidth: 32
                 Layout.preferredHeight: 32

@@ -14,7 +14,7 @@ ApplicationWindow {
     title: "Tavlo"
     color: Theme.window
     font.pixelSize: Theme.bodySize
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Appearance.rightToLeft
     LayoutMirroring.childrenInherit: true
 
     ContentView {

@@ -1,6 +1,6 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Tavlo
 
 // A form's rows, each a label and its field. Where they need more room than there is, they scroll,
@@ -35,7 +35,8 @@ Flickable {
     interactive: root.contentHeight > root.height
     clip: true
 
-    ScrollBar.vertical: ScrollBar {}
+    T.ScrollBar.vertical: ScrollIndicatorBar {
+    }
 
     GridLayout {
         id: grid

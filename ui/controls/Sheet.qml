@@ -54,7 +54,7 @@ T.Popup {
     T.Overlay.modal: Rectangle {
         color: Theme.scrim
 
-        Behavior on opacity {
+        Behavior on opacity  {
             NumberAnimation {
                 duration: Theme.shortDuration
             }
