@@ -21,8 +21,8 @@ struct BlogPost
 public:
     QUuid id = QUuid::createUuid(); ///< identity; random (RFC 4122, version 4) unless given
     QString title;
-    QString content; ///< body text; the forms do not show it and the feed does not carry it
-    Date date;       ///< date of publication
+    QString content;     ///< body text; the forms do not show it and the feed does not carry it
+    Date date;           ///< date of publication
     QString description; ///< short summary
     QString permalink;   ///< the post's own web address, as typed
 

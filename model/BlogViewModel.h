@@ -18,8 +18,8 @@ class BlogViewModel : public QObject, public std::enable_shared_from_this<BlogVi
 {
     Q_OBJECT
     Q_PROPERTY(BlogPosts posts READ posts WRITE setPosts NOTIFY postsChanged)
-    Q_PROPERTY(bool useDescriptionAsArticle READ useDescriptionAsArticle
-                   WRITE setUseDescriptionAsArticle NOTIFY useDescriptionAsArticleChanged)
+    Q_PROPERTY(bool useDescriptionAsArticle READ useDescriptionAsArticle WRITE
+                   setUseDescriptionAsArticle NOTIFY useDescriptionAsArticleChanged)
     Q_PROPERTY(QString blogTitle READ blogTitle WRITE setBlogTitle NOTIFY blogTitleChanged)
     Q_PROPERTY(QString blogLink READ blogLink WRITE setBlogLink NOTIFY blogLinkChanged)
     Q_PROPERTY(QString blogDescription READ blogDescription WRITE setBlogDescription NOTIFY

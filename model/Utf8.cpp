@@ -68,7 +68,8 @@ QString textFromUtf8(std::string_view utf8)
     const QByteArrayView bytes(utf8.data(), qsizetype(utf8.size()));
     if (!bytes.startsWith("\xEF\xBB\xBF"))
         return QString::fromUtf8(bytes);
-    QStringDecoder keepingByteOrderMark(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    QStringDecoder keepingByteOrderMark(QStringDecoder::Utf8,
+                                        QStringDecoder::Flag::ConvertInitialBom);
     return keepingByteOrderMark(bytes);
 }
 
