@@ -5,36 +5,38 @@ import Tavlo
 Item {
     id: root
 
-    required property blogPost post
+    required property string title
+    required property string description
+    required property string permalink
     required property string dateText
     // Whether a change of the post is shown as a movement.
     property bool animated: false
 
     readonly property int spacing: 6
 
-    implicitHeight: title.height + description.height + bottomLine.height + 2 * root.spacing
+    implicitHeight: titleText.height + descriptionText.height + bottomLine.height + 2 * root.spacing
 
     CardText {
-        id: title
+        id: titleText
 
         objectName: "title"
         anchors.left: parent.left
         anchors.right: parent.right
-        text: root.post.title
+        text: root.title
         font.pixelSize: Theme.title2Size
         font.bold: true
         animated: root.animated
     }
 
     CardText {
-        id: description
+        id: descriptionText
 
         objectName: "description"
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.top: title.bottom
+        anchors.top: titleText.bottom
         anchors.topMargin: root.spacing
-        text: root.post.description
+        text: root.description
         animated: root.animated
     }
 
@@ -43,12 +45,12 @@ Item {
 
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.top: description.bottom
+        anchors.top: descriptionText.bottom
         anchors.topMargin: root.spacing
-        height: Math.max(date.height, permalink.height)
+        height: Math.max(dateLabel.height, permalinkText.height)
 
         CardText {
-            id: date
+            id: dateLabel
 
             objectName: "date"
             anchors.left: parent.left
@@ -60,13 +62,13 @@ Item {
         }
 
         CardText {
-            id: permalink
+            id: permalinkText
 
             objectName: "permalink"
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, parent.width - date.width - Theme.spacing)
-            text: root.post.permalink
+            width: Math.min(implicitWidth, parent.width - dateLabel.width - Theme.spacing)
+            text: root.permalink
             font.pixelSize: Theme.captionSize
             wrapMode: Text.WrapAnywhere
             color: Theme.link

@@ -7,9 +7,15 @@ import Tavlo
 T.Control {
     id: root
 
-    required property blogPost post
-    required property BlogViewModel viewModel
+    // The record, a blogPost, for the commands.
+    required property var post
+    // What is shown of it. QML takes two posts for one when they are equal; texts it compares
+    // character by character.
+    required property string title
+    required property string description
+    required property string permalink
     required property string dateText
+    required property BlogViewModel viewModel
     property bool focusShown: root.visualFocus
     // Whether a change of the post is shown as a movement.
     property bool animated: false
@@ -25,8 +31,8 @@ T.Control {
     padding: Theme.padding
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.post.title
-    Accessible.description: root.post.description
+    Accessible.name: root.title
+    Accessible.description: root.description
     Accessible.focusable: true
     Accessible.onPressAction: root.requestMenuByKey()
 
@@ -56,7 +62,9 @@ T.Control {
     }
 
     contentItem: PostCardContent {
-        post: root.post
+        title: root.title
+        description: root.description
+        permalink: root.permalink
         dateText: root.dateText
         animated: root.animated
     }

@@ -37,6 +37,12 @@ QVariant PostListModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Post:
         return QVariant::fromValue(post);
+    case Title:
+        return post.title;
+    case Description:
+        return post.description;
+    case Permalink:
+        return post.permalink;
     case DateText:
         return longDate(post.date, DateRegion::current());
     default:
@@ -46,7 +52,11 @@ QVariant PostListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> PostListModel::roleNames() const
 {
-    return {{Post, "post"}, {DateText, "dateText"}};
+    return {{Post, "post"},
+            {Title, "title"},
+            {Description, "description"},
+            {Permalink, "permalink"},
+            {DateText, "dateText"}};
 }
 
 /// Brings the rows up to date. A change that a listener makes meanwhile comes after this one.

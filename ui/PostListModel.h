@@ -20,7 +20,10 @@ class PostListModel : public QAbstractListModel
 public:
     enum Role {
         Post = Qt::UserRole, ///< the whole record, a BlogPost
-        DateText,            ///< its calendar date in the user's locale
+        Title,
+        Description,
+        Permalink,
+        DateText, ///< its calendar date in the user's locale
     };
 
     using QAbstractListModel::QAbstractListModel;

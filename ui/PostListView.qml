@@ -110,7 +110,9 @@ ListView {
         root.currentIndex = row.index;
         row.forceActiveFocus(Qt.OtherFocusReason);
         menu.post = row.post;
-        menu.openAt(row, x, y, byKey);
+        // The card may go while the menu is open, the list does not.
+        const place = row.mapToItem(root, x, y);
+        menu.openAt(root, place.x, place.y, byKey);
     }
 
     // Keeps the reader's place when rows above it change their heights.
@@ -310,7 +312,7 @@ ListView {
     AppMenu {
         id: menu
 
-        property blogPost post
+        property var post
 
         objectName: "cardMenu"
 

@@ -7,7 +7,10 @@ FocusScope {
     id: root
 
     required property int index
-    required property blogPost post
+    required property var post
+    required property string title
+    required property string description
+    required property string permalink
     required property string dateText
     required property BlogViewModel viewModel
     // Whether it is the row that Tab leads to.
@@ -48,6 +51,9 @@ FocusScope {
         focus: true
         activeFocusOnTab: root.current || card.activeFocus
         post: root.post
+        title: root.title
+        description: root.description
+        permalink: root.permalink
         viewModel: root.viewModel
         dateText: root.dateText
         focusShown: root.focusShown

@@ -1,7 +1,10 @@
 #include "StoreHand.h"
 
+#include "model/NotificationCenter.h"
+
 #include <QDir>
 #include <QFile>
+#include <QJSEngine>
 
 namespace {
 
@@ -24,11 +27,23 @@ QFile savedPosts()
 
 } // namespace
 
+StoreHand::StoreHand(QObject *parent)
+    : QObject(parent)
+{
+    connect(NotificationCenter::defaultCenter(), &NotificationCenter::posted, this,
+            [this](const QString &name, const QVariant &object) {
+                if (name == editPost)
+                    m_edits.append(object);
+            });
+}
+
 BlogViewModel *StoreHand::store(const QStringList &titles)
 {
     m_stores.push_back(BlogViewModel::create());
-    m_stores.back()->setPosts(postsOf(titles));
-    return m_stores.back().get();
+    BlogViewModel *store = m_stores.back().get();
+    QJSEngine::setObjectOwnership(store, QJSEngine::CppOwnership);
+    store->setPosts(postsOf(titles));
+    return store;
 }
 
 BlogPost StoreHand::post(const QString &title, const QString &description, const QString &permalink,

@@ -18,7 +18,7 @@ class StoreHand : public QObject
     QML_SINGLETON
 
 public:
-    using QObject::QObject;
+    explicit StoreHand(QObject *parent = nullptr);
 
     /// A store with one post for each title, and no other.
     Q_INVOKABLE BlogViewModel *store(const QStringList &titles);
@@ -45,6 +45,11 @@ public:
     Q_INVOKABLE bool saved() const;
     Q_INVOKABLE void forgetSaved() const;
 
+    /// The posts that were asked to be edited since forgetEdits(), each a BlogPost.
+    Q_INVOKABLE QVariantList edits() const { return m_edits; }
+    Q_INVOKABLE void forgetEdits() { m_edits.clear(); }
+
 private:
+    QVariantList m_edits;
     std::vector<std::shared_ptr<BlogViewModel>> m_stores;
 };
