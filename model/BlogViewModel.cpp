@@ -122,9 +122,9 @@ void BlogViewModel::deletePost(const std::set<qsizetype> &at)
     savePosts();
 }
 
-void BlogViewModel::importRSSFeed(const QUrl &from)
+void BlogViewModel::importRSSFeed(const QString &from)
 {
-    const auto file = readFile(from.toLocalFile());
+    const auto file = readFile(from);
     const auto posts = file ? postsOfFeed(*file, &Date::now) : std::nullopt;
     if (!posts) {
         std::puts("Failed to read RSS file");
@@ -180,14 +180,9 @@ QByteArray BlogViewModel::generateRSSFeed() const
     return feedOfPosts(channel, m_posts, DateRegion::current());
 }
 
-void BlogViewModel::exportRSS(const QUrl &to) const
+void BlogViewModel::exportRSS(const QString &to) const
 {
-    exportRSS(to.toLocalFile());
-}
-
-void BlogViewModel::exportRSS(const QString &toPath) const
-{
-    replaceFile(toPath, generateRSSFeed());
+    replaceFile(to, generateRSSFeed());
 }
 
 QString BlogViewModel::getDocumentsDirectory()

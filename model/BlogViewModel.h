@@ -4,7 +4,6 @@
 
 #include <QObject>
 #include <QString>
-#include <QUrl>
 
 #include <memory>
 #include <set>
@@ -57,10 +56,10 @@ public:
     /// ends the process.
     void deletePost(const std::set<qsizetype> &at);
 
-    /// Reads the items of an RSS file, and a turn of the event loop later puts them in place of
-    /// all posts and saves them. A file that cannot be read, or is not UTF-8, changes nothing and
-    /// prints a line on standard output.
-    Q_INVOKABLE void importRSSFeed(const QUrl &from);
+    /// Reads the items of the RSS file at a path, and a turn of the event loop later puts them in
+    /// place of all posts and saves them. A file that cannot be read, or is not UTF-8, changes
+    /// nothing and prints a line on standard output.
+    Q_INVOKABLE void importRSSFeed(const QString &from);
 
     void savePosts() const;
     void loadPosts();
@@ -70,12 +69,8 @@ public:
     /// The blog as an RSS 2.0 document in UTF-8, its dates in the user's locale and time zone.
     QByteArray generateRSSFeed() const;
 
-    /// Writes the feed to a local file, atomically.
-    Q_INVOKABLE void exportRSS(const QUrl &to) const;
-
-    /// The same, to a path taken as typed. Not every path comes back from a QUrl as it went in:
-    /// "a:b" is taken for a drive's, "//a" for a host's.
-    Q_INVOKABLE void exportRSS(const QString &toPath) const;
+    /// Writes the feed to the file at a path taken as typed, atomically.
+    Q_INVOKABLE void exportRSS(const QString &to) const;
 
 signals:
     /// Sent before any property changes, also when its new value equals the old one.

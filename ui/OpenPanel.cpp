@@ -2,12 +2,13 @@
 
 #include "model/UserDirectories.h"
 
+#include <QDir>
 #include <QFileDialog>
 
 void OpenPanel::importInto(BlogViewModel *store)
 {
     if (m_folder.isEmpty())
-        m_folder = QUrl::fromLocalFile(documentsDirectory());
+        m_folder = documentsDirectory();
 
     auto *panel = new QFileDialog;
     panel->setAttribute(Qt::WA_DeleteOnClose);
@@ -15,13 +16,12 @@ void OpenPanel::importInto(BlogViewModel *store)
     panel->setAttribute(Qt::WA_QuitOnClose, false);
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setNameFilter(tr("RSS feeds (*.rss *.xml)"));
-    panel->setDirectoryUrl(m_folder);
+    panel->setDirectory(m_folder);
 
-    connect(panel, &QFileDialog::fileSelected, this,
-            [store = store->shared_from_this()](const QString &path) {
-                store->importRSSFeed(QUrl::fromLocalFile(path));
-            });
+    connect(
+        panel, &QFileDialog::fileSelected, this,
+        [store = store->shared_from_this()](const QString &path) { store->importRSSFeed(path); });
     connect(panel, &QFileDialog::finished, this,
-            [this, panel] { m_folder = panel->directoryUrl(); });
+            [this, panel] { m_folder = panel->directory().path(); });
     panel->show();
 }

@@ -3,7 +3,7 @@
 #include "model/BlogViewModel.h"
 
 #include <QObject>
-#include <QUrl>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
 /// The panel in which the user picks the feed to import.
@@ -22,5 +22,5 @@ public:
 
 private:
     /// Where the next panel starts: where the last one was left, at first the documents folder.
-    QUrl m_folder;
+    QString m_folder;
 };

@@ -335,7 +335,7 @@ TEST_F(BlogViewModelTest, savingAndWritingAFeed_areNoChange)
     store().savePosts();
     store().saveSettings();
     store().generateRSSFeed();
-    store().exportRSS(QUrl::fromLocalFile(m_home.path(u"feed.xml"_s)));
+    store().exportRSS(m_home.path(u"feed.xml"_s));
     EXPECT_EQ(log.take(), QStringList());
 }
 
@@ -344,7 +344,7 @@ TEST_F(BlogViewModelTest, importRSSFeed_isOneChange_aTurnOfTheLoopLater)
     addPosts({u"Old"_s});
     m_home.write(u"in.rss"_s, "<item><title>1</title></item><item><title>2</title></item>");
     SignalLog log(store());
-    store().importRSSFeed(QUrl::fromLocalFile(m_home.path(u"in.rss"_s)));
+    store().importRSSFeed(m_home.path(u"in.rss"_s));
     EXPECT_EQ(log.take(), QStringList());
     EXPECT_EQ(titles(), QStringList({u"Old"_s}));
 
@@ -362,12 +362,10 @@ TEST_F(BlogViewModelTest, importRSSFeed_ofAFileThatCannotBeRead_saysSoAndChanges
     addPosts({u"Old"_s});
     m_home.write(u"latin1.rss"_s, "<item><title>caf\xE9</title></item>");
     SignalLog log(store());
-    for (const QUrl &url :
-         {QUrl::fromLocalFile(m_home.path(u"missing.rss"_s)), QUrl::fromLocalFile(m_home.path()),
-          QUrl(), QUrl(u"https://example.com/feed.xml"_s),
-          QUrl::fromLocalFile(m_home.path(u"latin1.rss"_s))}) {
+    for (const QString &path : {m_home.path(u"missing.rss"_s), m_home.path(), QString(),
+                                u"https://example.com/feed.xml"_s, m_home.path(u"latin1.rss"_s)}) {
         CapturedOutput output(stdout);
-        store().importRSSFeed(url);
+        store().importRSSFeed(path);
         EXPECT_EQ(output.text(), "Failed to read RSS file\n");
     }
     QCoreApplication::processEvents();
@@ -378,7 +376,7 @@ TEST_F(BlogViewModelTest, importRSSFeed_ofAFileThatCannotBeRead_saysSoAndChanges
 TEST_F(BlogViewModelTest, importRSSFeed_isCarriedOut_whenItsWindowIsGone)
 {
     m_home.write(u"in.rss"_s, "<item><title>Imported</title></item>");
-    m_store->importRSSFeed(QUrl::fromLocalFile(m_home.path(u"in.rss"_s)));
+    m_store->importRSSFeed(m_home.path(u"in.rss"_s));
     m_store.reset();
     QCoreApplication::processEvents();
     restart();

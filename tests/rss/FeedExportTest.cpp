@@ -59,15 +59,6 @@ TEST_F(FeedExport, holdsTheFeedInUtf8WithoutAByteOrderMark)
     EXPECT_EQ(names(), (QStringList{u"feed.xml"_s}));
 }
 
-TEST_F(FeedExport, toAFileUrl_isTheSame)
-{
-    store->exportRSS(QUrl::fromLocalFile(path("50%20#1?.xml")));
-    EXPECT_EQ(bytesOf("50%20#1?.xml"), store->generateRSSFeed());
-    store->exportRSS(QUrl(u"https://example.com/feed.xml"_s));
-    store->exportRSS(QUrl());
-    EXPECT_EQ(names(), (QStringList{u"50%20#1?.xml"_s}));
-}
-
 TEST_F(FeedExport, isInTheRegionOfTheMoment)
 {
     const EnvironmentVariable messages("LANG", "en_US.UTF-8");

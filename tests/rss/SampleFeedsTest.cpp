@@ -59,7 +59,7 @@ protected:
 
     void import(const QString &path) const
     {
-        store->importRSSFeed(QUrl::fromLocalFile(path));
+        store->importRSSFeed(path);
         QCoreApplication::processEvents();
     }
 
@@ -110,7 +110,7 @@ class OurSampleFeeds : public testing::Test
 protected:
     std::vector<FoundItem> imported(const char *name) const
     {
-        store->importRSSFeed(QUrl::fromLocalFile(SampleFeed{TAVLO_TEST_FEEDS_DIR, name, 0}.path()));
+        store->importRSSFeed(SampleFeed{TAVLO_TEST_FEEDS_DIR, name, 0}.path());
         QCoreApplication::processEvents();
         return itemsOf(store->posts());
     }

@@ -78,7 +78,7 @@ WindowCase {
                     "title": "Old"
                 }]);
         Probe.write("in.xml", "<rss><channel><item><title>A</title><link>l</link><description>d</description></item>" + "<item><title>B</title><link>l</link><description>d</description></item></channel></rss>");
-        root.store.importRSSFeed("file://" + Probe.home + "/in.xml");
+        root.store.importRSSFeed(Probe.home + "/in.xml");
         tryVerify(() => titles().length === 2);
         compare(titles(), ["A", "B"]);
         tryVerify(() => shownTitles().length === 2);
