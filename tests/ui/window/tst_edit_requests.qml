@@ -183,6 +183,11 @@ WindowCase {
         request(1);
         compare(root.view.showingEditor, true);
         compare(Probe.fields(root.view.editingPost).title, "Two");
+        // The leaving form is none that could be saved.
+        keySequence("Ctrl+Return");
+        Probe.pressAccessibly(control("editorSheet", "saveButton"));
+        mouseClick(control("editorSheet", "saveButton"));
+        compare(root.view.showingEditor, true);
         tryVerify(() => part("editorSheet").opened && editedTitle() === "Two");
         compare(sheetTitle("editorSheet"), "Edit Post");
         keyClick(Qt.Key_End);

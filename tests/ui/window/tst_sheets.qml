@@ -56,6 +56,7 @@ WindowCase {
 
     function test_aSheetHasItsSizeInTheMiddle(data: var): void {
         openSheet(data.tag);
+        verify(part(data.tag).modal);
         const frame = place(form(data.tag));
         compare(frame.width, data.width);
         if (data.height > 0)
@@ -179,6 +180,10 @@ WindowCase {
         keyClick("q");
         root.view[data.flag] = false;
         verify(part(data.tag).visible);
+        const field = control(data.tag, data.first);
+        const text = field.text;
+        keyClick("z");
+        compare(field.text, text);
         keySequence("Ctrl+Return");
         keyClick(Qt.Key_Return);
         keyClick(Qt.Key_Escape);
