@@ -131,10 +131,10 @@ TEST(RecordsJsonReader, elementsOfPosts_areObjects)
 TEST(RecordsJsonReader, everyKey_mustBeThere)
 {
     for (const auto &[key, value] : goodPostFields()) {
-        const QByteArray short_ = jsonObject(without(goodPostFields(), key));
-        EXPECT_FALSE(decodePosts('[' + short_ + ']')) << key.data();
-        EXPECT_FALSE(decodePosts('[' + jsonObject(goodPostFields()) + ',' + short_ + ']'));
-        EXPECT_FALSE(decodePosts('[' + short_ + ',' + jsonObject(goodPostFields()) + ']'));
+        const QByteArray incomplete = jsonObject(without(goodPostFields(), key));
+        EXPECT_FALSE(decodePosts('[' + incomplete + ']')) << key.data();
+        EXPECT_FALSE(decodePosts('[' + jsonObject(goodPostFields()) + ',' + incomplete + ']'));
+        EXPECT_FALSE(decodePosts('[' + incomplete + ',' + jsonObject(goodPostFields()) + ']'));
     }
     for (const auto &[key, value] : goodSettingsFields())
         EXPECT_FALSE(decodeSettings(jsonObject(without(goodSettingsFields(), key)))) << key.data();
@@ -605,9 +605,9 @@ TEST(RecordsJsonReader, wideDocuments_areRead)
 {
     // Depth is counted, not size: siblings do not add up.
     EXPECT_TRUE(isPassedOver("[" + QByteArray("[[]],").repeated(2000) + "0]"));
-    QByteArray keys = "{\"k0\":0";
+    QByteArray keys = R"({"k0":0)";
     for (int key = 1; key < 5000; ++key)
-        keys += ",\"k" + QByteArray::number(key) + "\":{\"\":[]}";
+        keys += R"(,"k)" + QByteArray::number(key) + R"(":{"":[]})";
     EXPECT_TRUE(isPassedOver(keys + "}"));
 }
 

@@ -37,7 +37,7 @@ public:
     QByteArray text()
     {
         m_file.seek(0);
-        const QByteArray all = m_file.readAll();
+        QByteArray all = m_file.readAll();
         m_file.seek(m_file.size());
         return all;
     }

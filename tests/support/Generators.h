@@ -20,6 +20,7 @@
 // surrogates) and dates are finite: what both files can hold. A failing text shrinks by whole
 // pieces.
 
+// NOLINTNEXTLINE(readability-identifier-naming): as the libraries of generators have it.
 namespace generators {
 
 /// Pieces that a JSON writer, a feed writer or a search for tags could trip over.
