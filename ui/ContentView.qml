@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Tavlo
@@ -110,6 +109,9 @@ Item {
         }
     }
 
+    // Each form is built anew for each showing, in the context of this view. (A component that is
+    // bound to it cannot be built by the sheet in this version of Qt, hence the unchecked names.)
+    // qmllint disable unqualified
     Sheet {
         id: editorSheet
 
@@ -158,4 +160,5 @@ Item {
             onDismissed: root.showingExportPrompt = false
         }
     }
+    // qmllint enable unqualified
 }
