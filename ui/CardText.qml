@@ -19,24 +19,27 @@ Item {
     property alias font: label.font
     property alias color: label.color
     property alias wrapMode: label.wrapMode
+    property alias horizontalAlignment: label.horizontalAlignment
+    readonly property alias lineCount: label.lineCount
     // Whether a change is shown as a movement; otherwise it is done at once.
     property bool animated: false
     // The text on screen: it follows `text`.
     property string shownText: ""
+    // An empty text takes no line.
+    readonly property real textHeight: root.shownText.length > 0 ? label.height : 0
     // How much taller than the text the item is while its height follows.
     property real surplus: 0
 
-    implicitWidth: label.implicitWidth
-    implicitHeight: label.height + root.surplus
+    implicitHeight: root.textHeight + root.surplus
     clip: transition.running
 
     onTextChanged: {
         transition.complete();
         if (root.animated) {
-            const height = label.height;
+            const height = root.textHeight;
             former.text = root.shownText;
             root.shownText = root.text;
-            root.surplus = height - label.height;
+            root.surplus = height - root.textHeight;
             transition.start();
         } else {
             root.shownText = root.text;
@@ -49,7 +52,6 @@ Item {
 
         anchors.left: parent.left
         anchors.right: parent.right
-        height: root.shownText.length > 0 ? label.implicitHeight : 0
         text: root.shownText
     }
 
@@ -61,6 +63,7 @@ Item {
         font: label.font
         color: label.color
         wrapMode: label.wrapMode
+        horizontalAlignment: label.horizontalAlignment
         visible: transition.running
     }
 

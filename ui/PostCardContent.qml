@@ -55,7 +55,7 @@ Item {
             objectName: "date"
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, parent.width / 2)
+            width: Math.min(Math.ceil(dateMetrics.advanceWidth) + 1, parent.width / 2)
             text: root.dateText
             color: Theme.secondaryText
             animated: root.animated
@@ -67,12 +67,21 @@ Item {
             objectName: "permalink"
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, parent.width - dateLabel.width - Theme.spacing)
+            width: parent.width - dateLabel.width - Theme.spacing
+            // One line ends at the card's edge; several read as a paragraph.
+            horizontalAlignment: permalinkText.lineCount > 1 ? Text.AlignLeft : Text.AlignRight
             text: root.permalink
             font.pixelSize: Theme.captionSize
             wrapMode: Text.WrapAnywhere
             color: Theme.link
             animated: root.animated
         }
+    }
+
+    TextMetrics {
+        id: dateMetrics
+
+        text: root.dateText
+        font: dateLabel.font
     }
 }

@@ -14,6 +14,7 @@ ListView {
     property bool usedByKeys: false
     // Whether the change that is under way may take the focus from a card.
     property bool hadFocus: false
+    readonly property alias menuShown: menu.visible
     // Where the view was before the change that is under way.
     property real placeBefore: 0
     // Room below the last card in which the view comes down when cards have gone.
@@ -221,7 +222,7 @@ ListView {
         viewModel: row.list.viewModel
         current: ListView.isCurrentItem
         animated: row.y + row.height > row.list.contentY && row.y < row.list.contentY + row.list.height
-        focusShown: row.activeFocus && row.list.usedByKeys
+        focusShown: row.list.usedByKeys && (row.activeFocus || row.current && row.list.menuShown)
         onFocusedByTab: row.list.focusRow(row.index)
         // An empty list drops its rows at once, unless they hold on.
         ListView.delayRemove: row.list.empty && row.list.changing

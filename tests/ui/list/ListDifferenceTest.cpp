@@ -168,11 +168,11 @@ TEST(ListDifference, neighboursThatChanged_areOneUpdate)
 
 TEST(ListDifference, aNewPostUnderAnIdThatIsThere_isAnInsertionBeforeIt)
 {
-    const BlogPosts before{numbered(1, QStringLiteral("old")), numbered(2)};
-    BlogPosts after = before;
-    after.prepend(numbered(1, QStringLiteral("new")));
-    expectSteps(before, after, {{Kind::Insert, 0, 1}});
-    expectSteps(after, before, {{Kind::Remove, 0, 1}});
+    const BlogPosts one{numbered(1, QStringLiteral("old")), numbered(2)};
+    BlogPosts both = one;
+    both.prepend(numbered(1, QStringLiteral("new")));
+    expectSteps(one, both, {{Kind::Insert, 0, 1}});
+    expectSteps(both, one, {{Kind::Remove, 0, 1}});
 }
 
 TEST(ListDifference, ofPostsThatShareAnId_theFirstIsUpdatedByItself)
@@ -242,7 +242,7 @@ RC_GTEST_PROP(ListDifferenceProperty, withoutMoves_everyRowWhosePostStaysKeepsIt
         stayed += row.oldPlace >= 0 ? 1 : 0;
     qsizetype common = 0;
     for (const auto &[id, count] : occurrences(after))
-        common += occurrences(before).count(id) > 0 ? 1 : 0;
+        common += occurrences(before).contains(id) ? 1 : 0;
     RC_ASSERT(stayed == common);
 }
 

@@ -20,9 +20,9 @@ BlogPosts postsOf(const QStringList &titles)
     return posts;
 }
 
-QFile savedPosts()
+QString savedPosts()
 {
-    return QFile(QDir::home().filePath(QStringLiteral("posts.json")));
+    return QDir::home().filePath(QStringLiteral("posts.json"));
 }
 
 } // namespace
@@ -120,10 +120,10 @@ void StoreHand::keep(BlogViewModel *store, const QList<int> &rows) const
 
 bool StoreHand::saved() const
 {
-    return savedPosts().exists();
+    return QFile::exists(savedPosts());
 }
 
 void StoreHand::forgetSaved() const
 {
-    savedPosts().remove();
+    QFile::remove(savedPosts());
 }
