@@ -3,6 +3,8 @@
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
+#include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -14,13 +16,27 @@ std::string_view environment(const char *name)
     return value ? value : "";
 }
 
+/// ICU's name for a fixed offset from UTC: "GMT+09:00".
+std::string nameOfOffset(int milliseconds)
+{
+    const int minutes = std::abs(milliseconds) / (60 * U_MILLIS_PER_SECOND);
+    std::array<char, 16> name{};
+    std::snprintf(name.data(), name.size(), "GMT%c%02d:%02d", milliseconds < 0 ? '-' : '+',
+                  minutes / 60, minutes % 60);
+    return name.data();
+}
+
+/// The zone's name or, where the environment describes one without a name ("JST-9"), its offset's.
 std::string userTimeZone()
 {
     const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
     icu::UnicodeString id;
+    zone->getID(id);
+    const std::unique_ptr<icu::TimeZone> named(icu::TimeZone::createTimeZone(id));
+    if (*named == icu::TimeZone::getUnknown())
+        return nameOfOffset(zone->getRawOffset());
     std::string name;
-    zone->getID(id).toUTF8String(name);
-    return name;
+    return id.toUTF8String(name);
 }
 
 /// ICU names a script between language and country, where POSIX appends a modifier.

@@ -91,3 +91,11 @@ TEST(DateRegion, timeZone_isReadFromTheEnvironmentAtEachCall)
     zone.set("UTC");
     EXPECT_EQ(DateRegion::current().timeZone, "UTC");
 }
+
+TEST(DateRegion, current_ofAZoneWithoutAName_hasItsOffset)
+{
+    const EnvironmentVariable zone("TZ", "JST-9");
+    EXPECT_EQ(DateRegion::current().timeZone, "GMT+09:00");
+    zone.set("XYZ4");
+    EXPECT_EQ(DateRegion::current().timeZone, "GMT-04:00");
+}
