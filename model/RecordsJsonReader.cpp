@@ -45,7 +45,7 @@ std::string_view numberText(value json)
 
     auto next = text.begin();
     const auto skipOne = [&](std::string_view characters) {
-        const bool found = next != text.end() && characters.find(*next) != characters.npos;
+        const bool found = next != text.end() && characters.find(*next) != std::string_view::npos;
         next += found;
         return found;
     };

@@ -48,11 +48,11 @@ void appendNumber(Utf8Document &json, double number)
 {
     const double magnitude = std::abs(number);
     const bool plain = number == 0 || (magnitude >= 1e-4 && magnitude < 1e16);
-    std::array<char, 32> digits;
-    const auto end = std::to_chars(digits.begin(), digits.end(), number,
-                                   plain ? std::chars_format::fixed : std::chars_format::scientific)
-                         .ptr;
-    json.append({digits.begin(), end});
+    std::array<char, 32> digits{};
+    const std::to_chars_result written =
+        std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                      plain ? std::chars_format::fixed : std::chars_format::scientific);
+    json.append({digits.data(), written.ptr});
 }
 
 void appendPost(Utf8Document &json, const BlogPost &post)

@@ -92,10 +92,10 @@ void Utf8Document::appendText(QStringView text)
 
 void Utf8Document::appendEscaped(QStringView text, const Escapes &escapes)
 {
-    const auto longest = std::max_element(
-        escapes.begin(), escapes.end(),
-        [](std::string_view left, std::string_view right) { return left.size() < right.size(); });
-    appendUtf16(m_bytes, text, qsizetype(longest->size()), [&escapes](char *out, char character) {
+    std::size_t longest = 1;
+    for (const std::string_view replacement : escapes)
+        longest = std::max(longest, replacement.size());
+    appendUtf16(m_bytes, text, qsizetype(longest), [&escapes](char *out, char character) {
         const std::string_view replacement = escapes[std::size_t(character)];
         if (replacement.empty()) {
             *out = character;
