@@ -116,9 +116,17 @@ ListView {
         menu.openAt(root, place.x, place.y, byKey);
     }
 
+    // The card at a place or, where there is a space between two, the one below it.
+    function cardAt(place: real): Item {
+        const card = root.itemAt(root.width / 2, place);
+        if (card)
+            return card;
+        return root.itemAt(root.width / 2, place + root.spacing);
+    }
+
     // Keeps the reader's place when rows above it change their heights.
     function keepPlace(): void {
-        const first = root.itemAt(root.width / 2, root.contentY) ?? root.itemAt(root.width / 2, root.contentY + root.spacing);
+        const first = root.cardAt(root.contentY);
         if (!first)
             return;
         const before = first.y;
