@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 
 /// The text of bytes that are known to be valid UTF-8 (RFC 3629). Every character is kept, a
 /// U+FEFF at the start too.

@@ -49,7 +49,6 @@ FocusScope {
         titleField.text = root.draft.title;
         descriptionField.source = root.draft.description;
         permalinkField.text = root.draft.permalink;
-        permalinkField.cursorPosition = 0;
         dateField.postDate.date = root.draft.date;
     }
 

@@ -39,9 +39,7 @@ FocusScope {
         root.draft.seed(root.viewModel);
         titleField.text = root.draft.title;
         linkField.text = root.draft.link;
-        linkField.cursorPosition = 0;
         descriptionField.text = root.draft.description;
-        descriptionField.cursorPosition = 0;
     }
 
     ColumnLayout {
