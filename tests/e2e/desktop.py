@@ -12,6 +12,9 @@ import unittest
 # How long anything may take that the program is to do.
 SECONDS = 60
 
+# Settings of the user's own desktop, which the program is not to see.
+FOREIGN_SETTINGS = ("XDG_", "QT_", "QML", "QSG_", "LC_", "LANG")
+
 
 def wait_for(condition, what, seconds=SECONDS):
     """The condition's first true result; fails with a sentence when there is none in time."""
@@ -53,7 +56,9 @@ class Program:
         self.folder = tempfile.TemporaryDirectory(prefix="tavlo-e2e-")
         self.home = pathlib.Path(self.folder.name)
         (self.home / "runtime").mkdir(mode=0o700)
-        self.environment = {
+        self.environment = {key: value for key, value in os.environ.items()
+                            if not key.startswith(FOREIGN_SETTINGS)}
+        self.environment |= {
             "HOME": str(self.home),
             "XDG_CONFIG_HOME": str(self.home / ".config"),
             "XDG_CACHE_HOME": str(self.home / ".cache"),
@@ -76,7 +81,7 @@ class Program:
 
     def start(self):
         self.process = subprocess.Popen(
-            [self.path], env=os.environ | self.environment, cwd=self.home,
+            [self.path], env=self.environment | {"DISPLAY": os.environ["DISPLAY"]}, cwd=self.home,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         self.window = wait_for(self.find_window, "the program's window")
         wait_for(lambda: self.find(role="push button", name="New Post"), "the window's accessibility tree")
@@ -120,25 +125,53 @@ class Program:
     def nodes(self):
         """All nodes of the accessibility tree that are showing, from the window down."""
         def walk(node):
-            yield node
-            for child in node:
+            try:
+                children = list(node)
+            except Exception:  # the node went while it was read
+                return
+            if showing(node):
+                yield node
+            for child in children:
                 if child:
                     yield from walk(child)
         application = self.application()
-        return [node for node in walk(application) if showing(node)] if application else []
+        return walk(application) if application else iter(())
 
-    def find(self, role=None, name=None):
-        """The first showing node of that role and name, or nothing."""
+    def find_all(self, role=None, name=None):
+        """The showing nodes of that role and name, from the window down."""
+        found = []
         for node in self.nodes():
             try:
                 if (role is None or node.getRoleName() == role) and (name is None or node.name == name):
-                    return node
+                    found.append(node)
             except Exception:  # the node went while it was read
                 continue
-        return None
+        return found
+
+    def find(self, role=None, name=None):
+        """The first showing node of that role and name, or nothing."""
+        return next(iter(self.find_all(role, name)), None)
 
     def wait_for(self, role=None, name=None):
         return wait_for(lambda: self.find(role, name), f"{role or 'node'} {name!r} on the screen")
+
+    def wait_for_state(self, state, role=None, name=None, holds=True):
+        """Waits until the node of that role and name has a state ("focused"), or has it no more."""
+        def node_in_state():
+            node = self.find(role, name)
+            return node if node and has_state(node, state) == holds else None
+        return wait_for(node_in_state, f"{role or 'node'} {name!r} to be {'' if holds else 'not '}{state}")
+
+    def wait_for_text(self, name, text):
+        """Waits until the field of that name holds exactly a text."""
+        wait_for(lambda: self.text_of(name) == text, f"the field {name!r} to hold {text!r}")
+
+    def text_of(self, name):
+        field = self.find("text", name)
+        try:
+            return field.queryText().getText(0, -1) if field else None
+        except Exception:  # the node went while it was read
+            return None
 
     def wait_until_gone(self, role=None, name=None):
         wait_for(lambda: not self.find(role, name), f"{role or 'node'} {name!r} to go")
@@ -160,23 +193,40 @@ class Program:
     # Working the window
 
     def keys(self, *keys):
-        for key in keys:
-            subprocess.run(["xdotool", "key", "--window", "0", key], check=True)
-            time.sleep(0.05)
+        """Presses keys, one after the other, on whatever has the focus."""
+        subprocess.run(["xdotool", "key", "--delay", "50", *keys], check=True)
 
     def type(self, text):
         subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
 
     def paste(self, text):
         """Puts a text that a keyboard cannot type into the focused field, in place of the selection."""
-        subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), check=True)
+        subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.keys("ctrl+v")
 
-    def click(self, node, button=1):
-        import pyatspi
-        box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        subprocess.run(["xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2),
-                        "click", str(button)], check=True)
+    def fill(self, name, text):
+        """Puts a text into the field of that name, in place of what is there."""
+        self.click(self.wait_for("text", name))
+        self.wait_for_state("focused", "text", name)
+        self.keys("ctrl+a")
+        if not text:
+            self.keys("Delete")
+        elif text.isascii() and text.isprintable():
+            self.type(text)
+        else:
+            self.paste(text)
+        self.wait_for_text(name, text)
+
+    def point_at(self, node):
+        """Moves the mouse to a node's middle, once the node has come to rest."""
+        box = wait_for(lambda: box_at_rest(node), "a node to come to rest")
+        subprocess.run(["xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2)],
+                       check=True)
+
+    def click(self, node, button=1, times=1):
+        self.point_at(node)
+        subprocess.run(["xdotool", "click", "--repeat", str(times), "--delay", "40", str(button)], check=True)
 
     def press(self, name):
         """Clicks the button of that name."""
@@ -186,12 +236,31 @@ class Program:
         subprocess.run(["import", "-window", "root", str(path)], check=False)
 
 
-def showing(node):
+def has_state(node, state):
+    """Whether a node is in a state, "focused" say. One that went while it was read is in none."""
     import pyatspi
     try:
-        return node.getState().contains(pyatspi.STATE_SHOWING)
-    except Exception:  # the node went while it was read
+        return node.getState().contains(getattr(pyatspi, f"STATE_{state.upper()}"))
+    except Exception:
         return False
+
+
+def showing(node):
+    return has_state(node, "showing")
+
+
+def box_at_rest(node):
+    """Where a node is on the screen, or nothing while it moves."""
+    import pyatspi
+
+    def box():
+        extents = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return extents if extents.width > 0 else None
+    before = box()
+    time.sleep(0.04)
+    after = box()
+    same = before and after and (before.x, before.y, before.height) == (after.x, after.y, after.height)
+    return after if same else None
 
 
 class ProgramTest(unittest.TestCase):

@@ -1,45 +1,13 @@
 """The program's main job, from a fresh start to the files on disk."""
 
-import json
-import os
-import pathlib
 import unittest
-from datetime import datetime, timezone
 
-from desktop import ProgramTest, wait_for
-
-REFERENCE_DATE = 978307200
-DATA = pathlib.Path(os.environ["TAVLO_TEST_DATA"])
+import reference
+from desktop import wait_for
+from stories import DATA, Story
 
 
-def feed(title, link, description, posts):
-    """The feed's bytes, written without the program."""
-    def item(post):
-        date = datetime.fromtimestamp(post["date"] // 1 + REFERENCE_DATE, timezone.utc)
-        escaped = post["description"].replace("&", "&amp;").replace("<", "&lt;").replace(">", "&gt;")
-        return (f"<item>\n  <title>{post['title']}</title>\n  <link>{post['permalink']}</link>\n"
-                f"  <pubDate>{date:%a}, {date.day} {date:%b} {date.year:04} {date:%H:%M:%S} +0000</pubDate>\n"
-                f"  <description>{escaped}</description>\n</item>")
-    return ('<?xml version="1.0" encoding="UTF-8" ?>\n<rss version="2.0">\n  <channel>\n'
-            f"    <title>{title}</title>\n    <link>{link}</link>\n    <description>{description}</description>\n    "
-            + "\n".join(map(item, posts)) + "\n  </channel>\n</rss>").encode()
-
-
-class MainJob(ProgramTest):
-
-    def write_post(self, title, description, permalink):
-        self.program.press("New Post")
-        self.program.wait_for("text", "Title")
-        self.program.type(title)
-        self.program.keys("Tab")
-        self.program.type(description)
-        self.program.keys("Tab")
-        self.program.type(permalink)
-        self.program.press("Save")
-        self.program.wait_until_gone("push button", "Save")
-
-    def posts(self):
-        return json.loads(self.program.file("posts.json").read_bytes())
+class MainJob(Story):
 
     def test_two_posts_are_written_exported_and_there_after_a_restart(self):
         program = self.program
@@ -60,7 +28,7 @@ class MainJob(ProgramTest):
         program.type("Field Notes")
         program.keys("Return")
         program.wait_until_gone("text", "Blog Title")
-        settings = json.loads(program.file("rss_settings.json").read_bytes())
+        settings = self.settings()
         self.assertEqual(settings["title"], "Field Notes")
 
         program.keys("ctrl+e")
@@ -69,7 +37,7 @@ class MainJob(ProgramTest):
         exported = program.file("Desktop/feed.xml")
         wait_for(exported.exists, "the exported feed")
         self.assertEqual(exported.read_bytes(),
-                         feed("Field Notes", settings["link"], settings["description"], self.posts()))
+                         reference.feed("Field Notes", settings["link"], settings["description"], self.posts()))
 
         before = program.file("posts.json").read_bytes()
         program.wait_until_gone("push button", "Export")

@@ -1,0 +1,133 @@
+"""Steps that several stories have in common: what a person does to a blog, and what to look at."""
+
+import json
+import os
+import pathlib
+
+from desktop import ProgramTest, has_state, wait_for
+
+DATA = pathlib.Path(os.environ["TAVLO_TEST_DATA"])
+PERMALINK = "Permalink (https://...)"
+PATH_FIELD = "File path"
+
+
+class Story(ProgramTest):
+
+    # The files
+
+    def posts_bytes(self):
+        return self.program.file("posts.json").read_bytes()
+
+    def posts(self):
+        return json.loads(self.posts_bytes())
+
+    def settings(self):
+        return json.loads(self.program.file("rss_settings.json").read_bytes())
+
+    def stamp(self, name):
+        """A file's bytes and the time of its last change, to see whether it was left alone."""
+        file = self.program.file(name)
+        return file.read_bytes(), file.stat().st_mtime_ns
+
+    def wait_for_bytes(self, name, expected):
+        """Waits until a file holds exactly these bytes, and fails with the difference."""
+        file = self.program.file(name)
+        try:
+            wait_for(lambda: file.exists() and file.read_bytes() == expected, f"the bytes of {name}", seconds=10)
+        except AssertionError:
+            self.assertEqual(file.read_bytes() if file.exists() else None, expected)
+
+    # The list
+
+    def titles(self):
+        """The titles of the cards on the screen, from the top down."""
+        return [card.name for card in self.program.find_all("list item")]
+
+    def wait_for_titles(self, *titles):
+        wait_for(lambda: self.titles() == list(titles), f"the cards {titles}")
+
+    def card_menu_by_mouse(self, title, command):
+        self.program.click(self.program.wait_for("list item", title), button=3)
+        self.program.click(self.program.wait_for("menu item", command))
+
+    def focus_card(self, title):
+        """Goes to a card by Tab and the arrow keys."""
+        program = self.program
+        for _ in range(10):
+            if any(card.name == title for card in self.focused_cards()):
+                return
+            program.keys("Down" if self.focused_cards() else "Tab")
+        raise AssertionError(f"the keys did not lead to the card {title!r}")
+
+    def focused_cards(self):
+        return [card for card in self.program.find_all("list item") if has_state(card, "focused")]
+
+    def card_menu_by_keys(self, title, command, key="Menu"):
+        """Opens a card's menu by a key, goes to a command and gives it."""
+        self.focus_card(title)
+        self.program.keys(key)
+        self.program.wait_for("menu item", command)
+        if command == "Delete Post":
+            self.program.keys("Down")
+        self.program.wait_for_state("focused", "menu item", command)
+        self.program.keys("Return")
+
+    # The editor
+
+    def open_editor(self):
+        self.program.keys("ctrl+n")
+        self.wait_for_editor("New Post")
+
+    def wait_for_editor(self, heading):
+        self.program.wait_for("heading", heading)
+        self.program.wait_for_state("focused", "text", "Title")
+
+    def wait_until_editor_closed(self):
+        self.program.wait_until_gone("text", "Title")
+        self.program.wait_for_state("enabled", "push button", "New Post")
+
+    def write_post(self, title, description="", permalink=""):
+        self.open_editor()
+        for name, text in (("Title", title), ("Description", description), (PERMALINK, permalink)):
+            if text:
+                self.program.fill(name, text)
+        self.save_post()
+
+    def save_post(self):
+        self.program.wait_for_state("enabled", "push button", "Save")
+        self.program.press("Save")
+        self.wait_until_editor_closed()
+
+    # Settings and export
+
+    def open_settings(self):
+        self.program.press("Blog Settings")
+        self.program.wait_for_state("focused", "text", "Blog Title")
+
+    def wait_until_settings_closed(self):
+        self.program.wait_until_gone("text", "Blog Title")
+        self.program.wait_for_state("enabled", "push button", "New Post")
+
+    def change_settings(self, **fields):
+        """Changes settings, given as blog_title="…" and so on, and saves them."""
+        self.open_settings()
+        for field, text in fields.items():
+            self.program.fill(field.replace("_", " ").title(), text)
+        self.program.press("Save")
+        self.wait_until_settings_closed()
+
+    def open_export(self):
+        self.program.keys("ctrl+e")
+        self.program.wait_for_state("focused", "text", PATH_FIELD)
+
+    def wait_until_export_closed(self):
+        self.program.wait_until_gone("text", PATH_FIELD)
+        self.program.wait_for_state("enabled", "push button", "New Post")
+
+    def export_to(self, path):
+        """Exports the feed to a typed path; the file's bytes if there is one then."""
+        self.open_export()
+        self.program.fill(PATH_FIELD, str(path))
+        self.program.press("Export")
+        self.wait_until_export_closed()
+        return path.read_bytes() if path.exists() else None
