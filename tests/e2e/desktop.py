@@ -137,34 +137,36 @@ class Program:
         return None
 
     def nodes(self):
-        """All nodes of the accessibility tree that are showing, from the window down."""
+        """The nodes of the accessibility tree that are showing, from the window down."""
         def walk(node):
+            if not showing(node):
+                return
+            yield node
             try:
                 children = list(node)
             except Exception:  # the node went while it was read
                 return
-            if showing(node):
-                yield node
             for child in children:
                 if child:
                     yield from walk(child)
         application = self.application()
         return walk(application) if application else iter(())
 
-    def find_all(self, role=None, name=None):
-        """The showing nodes of that role and name, from the window down."""
-        found = []
+    def matches(self, role=None, name=None):
         for node in self.nodes():
             try:
                 if (role is None or node.getRoleName() == role) and (name is None or node.name == name):
-                    found.append(node)
+                    yield node
             except Exception:  # the node went while it was read
                 continue
-        return found
+
+    def find_all(self, role=None, name=None):
+        """The showing nodes of that role and name, from the window down."""
+        return list(self.matches(role, name))
 
     def find(self, role=None, name=None):
         """The first showing node of that role and name, or nothing."""
-        return next(iter(self.find_all(role, name)), None)
+        return next(self.matches(role, name), None)
 
     def wait_for(self, role=None, name=None):
         return wait_for(lambda: self.find(role, name), f"{role or 'node'} {name!r} on the screen")

@@ -4,7 +4,7 @@ import json
 import os
 import pathlib
 
-from desktop import ProgramTest, has_state, wait_for
+from desktop import ProgramTest, has_state, showing, wait_for
 
 DATA = pathlib.Path(os.environ["TAVLO_TEST_DATA"])
 PERMALINK = "Permalink (https://...)"
@@ -39,28 +39,42 @@ class Story(ProgramTest):
 
     # The list
 
+    def cards(self):
+        """The cards on the screen, from the top down."""
+        posts = self.program.find("list", "Posts")
+        try:
+            return [node for node in posts or () if showing(node) and node.getRoleName() != "scroll bar"]
+        except Exception:  # a card went while it was read
+            return []
+
     def titles(self):
-        """The titles of the cards on the screen, from the top down."""
-        return [card.name for card in self.program.find_all("list item")]
+        return [card.name for card in self.cards()]
 
     def wait_for_titles(self, *titles):
-        wait_for(lambda: self.titles() == list(titles), f"the cards {titles}")
+        try:
+            wait_for(lambda: self.titles() == list(titles), f"the cards {titles}", seconds=20)
+        except AssertionError:
+            self.assertEqual(self.titles(), list(titles))
+
+    def wait_for_card(self, title):
+        return wait_for(lambda: next((card for card in self.cards() if card.name == title), None), f"the card {title!r}")
 
     def card_menu_by_mouse(self, title, command):
-        self.program.click(self.program.wait_for("list item", title), button=3)
+        self.program.click(self.wait_for_card(title), button=3)
         self.program.click(self.program.wait_for("menu item", command))
+
+    def focused_title(self):
+        return next((card.name for card in self.cards() if has_state(card, "focused")), None)
 
     def focus_card(self, title):
         """Goes to a card by Tab and the arrow keys."""
-        program = self.program
         for _ in range(10):
-            if any(card.name == title for card in self.focused_cards()):
+            focused = self.focused_title()
+            if focused == title:
                 return
-            program.keys("Down" if self.focused_cards() else "Tab")
+            below = focused is not None and self.titles().index(focused) < self.titles().index(title)
+            self.program.keys("Tab" if focused is None else "Down" if below else "Up")
         raise AssertionError(f"the keys did not lead to the card {title!r}")
-
-    def focused_cards(self):
-        return [card for card in self.program.find_all("list item") if has_state(card, "focused")]
 
     def card_menu_by_keys(self, title, command, key="Menu"):
         """Opens a card's menu by a key, goes to a command and gives it."""
@@ -85,6 +99,9 @@ class Story(ProgramTest):
     def wait_until_editor_closed(self):
         self.program.wait_until_gone("text", "Title")
         self.program.wait_for_state("enabled", "push button", "New Post")
+
+    def save_is_enabled(self):
+        return has_state(self.program.wait_for("push button", "Save"), "enabled")
 
     def write_post(self, title, description="", permalink=""):
         self.open_editor()
