@@ -265,6 +265,12 @@ def showing(node):
     return has_state(node, "showing")
 
 
+def top(node):
+    """The upper edge of a node on the screen."""
+    import pyatspi
+    return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).y
+
+
 def box_at_rest(node):
     """Where a node is on the screen, or nothing while it moves."""
     import pyatspi

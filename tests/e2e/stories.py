@@ -4,7 +4,7 @@ import json
 import os
 import pathlib
 
-from desktop import ProgramTest, has_state, showing, wait_for
+from desktop import ProgramTest, has_state, showing, top, wait_for
 
 DATA = pathlib.Path(os.environ["TAVLO_TEST_DATA"])
 PERMALINK = "Permalink (https://...)"
@@ -43,7 +43,9 @@ class Story(ProgramTest):
         """The cards on the screen, from the top down."""
         posts = self.program.find("list", "Posts")
         try:
-            return [node for node in posts or () if showing(node) and node.getRoleName() != "scroll bar"]
+            found = [node for node in posts or () if showing(node) and node.getRoleName() != "scroll bar"]
+            # The tree has them in the order in which they came.
+            return sorted(found, key=top)
         except Exception:  # a card went while it was read
             return []
 
