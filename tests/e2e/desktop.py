@@ -271,18 +271,19 @@ def top(node):
     return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).y
 
 
+def box_of(node):
+    """Where a node is on the screen."""
+    import pyatspi
+    return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+
+
 def box_at_rest(node):
     """Where a node is on the screen, or nothing while it moves."""
-    import pyatspi
-
-    def box():
-        extents = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        return extents if extents.width > 0 else None
-    before = box()
+    before = box_of(node)
     time.sleep(0.04)
-    after = box()
-    same = before and after and (before.x, before.y, before.height) == (after.x, after.y, after.height)
-    return after if same else None
+    after = box_of(node)
+    same = (before.x, before.y, before.height) == (after.x, after.y, after.height)
+    return after if same and after.width > 0 else None
 
 
 class ProgramTest(unittest.TestCase):

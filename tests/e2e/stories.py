@@ -4,7 +4,7 @@ import json
 import os
 import pathlib
 
-from desktop import ProgramTest, has_state, showing, top, wait_for
+from desktop import ProgramTest, box_of, has_state, showing, top, wait_for
 
 DATA = pathlib.Path(os.environ["TAVLO_TEST_DATA"])
 PERMALINK = "Permalink (https://...)"
