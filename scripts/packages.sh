@@ -37,6 +37,7 @@ run_packages=(
     qml6-module-qtquick-shapes
     qml6-module-qtquick-templates
     qml6-module-qtquick-window
+    qt6-translations-l10n
     qt6-wayland
     tzdata
 )

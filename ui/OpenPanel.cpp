@@ -15,7 +15,7 @@ void OpenPanel::importInto(BlogViewModel *store)
     // The program ends with its window; the panels go with it.
     panel->setAttribute(Qt::WA_QuitOnClose, false);
     panel->setFileMode(QFileDialog::ExistingFile);
-    panel->setNameFilter(tr("RSS feeds (*.rss *.xml)"));
+    panel->setNameFilter(tr("RSS feeds") + QStringLiteral(" (*.rss *.xml)"));
     panel->setDirectory(m_folder);
 
     connect(

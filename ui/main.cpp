@@ -1,4 +1,4 @@
-#include "model/DateRegion.h"
+#include "ui/Translations.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -12,7 +12,7 @@ namespace {
 /// The direction in which the language of the user's messages is written.
 Qt::LayoutDirection directionOfMessages()
 {
-    return QLocale(QString::fromStdString(userLocale("LC_MESSAGES"))).textDirection();
+    return QLocale(languagesOfMessages().value(0, QStringLiteral("C"))).textDirection();
 }
 
 } // namespace
@@ -26,6 +26,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("tavlo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tavlo"));
     QApplication::setDesktopFileName(QStringLiteral("org.example.Tavlo"));
+    installTranslations();
     QApplication::setLayoutDirection(directionOfMessages());
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 

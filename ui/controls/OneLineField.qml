@@ -60,6 +60,7 @@ T.TextField {
         field: root
     }
 
+    // Where the text of the hint is too long for a line, the field is as high as its lines.
     Text {
         id: placeholder
 
@@ -73,7 +74,7 @@ T.TextField {
         font: root.font
         color: root.placeholderTextColor
         textFormat: Text.PlainText
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
