@@ -213,7 +213,12 @@ class Program:
         subprocess.run(["xdotool", "key", "--delay", "50", *keys], check=True)
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
+        """Types a text that a keyboard has keys for; a line break by Return."""
+        for number, line in enumerate(text.split("\n")):
+            if number:
+                self.keys("Return")
+            if line:
+                subprocess.run(["xdotool", "type", "--delay", "15", "--", line], check=True)
 
     def paste(self, text):
         """Puts a text that a keyboard cannot type into the focused field, in place of the selection."""

@@ -10,6 +10,13 @@ DATA = pathlib.Path(os.environ["TAVLO_TEST_DATA"])
 PERMALINK = "Permalink (https://...)"
 PATH_FIELD = "File path"
 
+# Title, link and description of a blog whose settings were never saved.
+DEFAULT_SETTINGS = (
+    "My Tavlo", "https://example.com",
+    "Lorem ipsum dolor sit amet consectetur adipiscing elit. Consectetur adipiscing elit quisque faucibus ex "
+    "sapien vitae. Ex sapien vitae pellentesque sem placerat in id. Placerat in id cursus mi pretium tellus duis. "
+    "Pretium tellus duis convallis tempus leo eu aenean.")
+
 
 class Story(ProgramTest):
 
