@@ -94,9 +94,15 @@ class Program:
         return self.home / name
 
     def start(self):
+        self.begin()
+        self.wait_for_start()
+
+    def begin(self):
         self.process = subprocess.Popen(
             [self.path], env=self.environment | {"DISPLAY": os.environ["DISPLAY"]}, cwd=self.home,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+
+    def wait_for_start(self):
         self.window = wait_for(self.find_window, "the program's window")
         wait_for(lambda: self.find(role="push button", name="New Post"), "the window's accessibility tree")
 
