@@ -189,11 +189,14 @@ class Program:
         wait_for(lambda: self.text_of(name) == text, f"the field {name!r} to hold {text!r}")
 
     def text_of(self, name):
+        """What the field of that name holds, or None if there is no such field."""
         field = self.find("text", name)
         try:
-            return field.queryText().getText(0, -1) if field else None
+            text = field.queryText().getText(0, -1) if field else None
         except Exception:  # the node went while it was read
             return None
+        # A field of several lines tells its line breaks as paragraph separators.
+        return text.replace("\u2029", "\n") if text and has_state(field, "multi_line") else text
 
     def wait_until_gone(self, role=None, name=None):
         wait_for(lambda: not self.find(role, name), f"{role or 'node'} {name!r} to go")
@@ -274,12 +277,6 @@ def has_state(node, state):
 
 def showing(node):
     return has_state(node, "showing")
-
-
-def top(node):
-    """The upper edge of a node on the screen."""
-    import pyatspi
-    return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS).y
 
 
 def box_of(node):

@@ -4,7 +4,7 @@ import json
 import os
 import pathlib
 
-from desktop import ProgramTest, box_of, has_state, showing, top, wait_for
+from desktop import ProgramTest, box_of, has_state, showing, wait_for
 
 DATA = pathlib.Path(os.environ["TAVLO_TEST_DATA"])
 PERMALINK = "Permalink (https://...)"
@@ -52,7 +52,7 @@ class Story(ProgramTest):
         try:
             found = [node for node in posts or () if showing(node) and node.getRoleName() != "scroll bar"]
             # The tree has them in the order in which they came.
-            return sorted(found, key=top)
+            return sorted(found, key=lambda card: box_of(card).y)
         except Exception:  # a card went while it was read
             return []
 
