@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Date.h"
+#include "model/RandomUuid.h"
 
 #include <QList>
 #include <QObject>
@@ -19,7 +20,7 @@ struct BlogPost
     Q_PROPERTY(QString permalink MEMBER permalink)
 
 public:
-    QUuid id = QUuid::createUuid(); ///< identity; random (RFC 4122, version 4) unless given
+    QUuid id = randomUuid(); ///< identity
     QString title;
     QString content;     ///< body text; the forms do not show it and the feed does not carry it
     Date date;           ///< date of publication

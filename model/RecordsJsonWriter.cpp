@@ -16,15 +16,15 @@ constexpr Escapes jsonEscapes = [] {
         "\\u0010\\u0011\\u0012\\u0013\\u0014\\u0015\\u0016\\u0017"
         "\\u0018\\u0019\\u001a\\u001b\\u001c\\u001d\\u001e\\u001f";
     for (std::size_t control = 0; control < 0x20; ++control)
-        escapes[control] = controls.substr(6 * control, 6);
-    escapes['\b'] = "\\b";
-    escapes['\f'] = "\\f";
-    escapes['\n'] = "\\n";
-    escapes['\r'] = "\\r";
-    escapes['\t'] = "\\t";
-    escapes['"'] = "\\\"";
-    escapes['\\'] = "\\\\";
-    escapes['/'] = "\\/";
+        escapes.replace(char(control), controls.substr(6 * control, 6));
+    escapes.replace('\b', "\\b");
+    escapes.replace('\f', "\\f");
+    escapes.replace('\n', "\\n");
+    escapes.replace('\r', "\\r");
+    escapes.replace('\t', "\\t");
+    escapes.replace('"', "\\\"");
+    escapes.replace('\\', "\\\\");
+    escapes.replace('/', "\\/");
     return escapes;
 }();
 
@@ -37,8 +37,18 @@ void appendString(Utf8Document &json, QStringView text)
 
 void appendUuid(Utf8Document &json, const QUuid &id)
 {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::array<char, 36> text{};
+    auto next = text.begin();
+    for (const char byte : id.toRfc4122()) {
+        const std::ptrdiff_t place = next - text.begin();
+        if (place == 8 || place == 13 || place == 18 || place == 23)
+            *next++ = '-';
+        *next++ = digits[uchar(byte) >> 4];
+        *next++ = digits[uchar(byte) & 0xf];
+    }
     json.append("\"");
-    json.append(id.toByteArray(QUuid::WithoutBraces).toUpper().toStdString());
+    json.append({text.data(), text.size()});
     json.append("\"");
 }
 

@@ -3,7 +3,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 namespace {
 
@@ -37,30 +37,6 @@ char *writeNonAscii(char *out, const char16_t *&unit, const char16_t *end)
     return out;
 }
 
-/// Appends `text`, with `writeAscii(out, character)` writing each ASCII character in at most
-/// `bytesPerAscii` bytes.
-template <typename WriteAscii>
-void appendUtf16(QByteArray &bytes, QStringView text, qsizetype bytesPerAscii,
-                 WriteAscii writeAscii)
-{
-    const qsizetype start = bytes.size();
-    const qsizetype atMost = start + text.size() * std::max(bytesPerUnit, bytesPerAscii);
-    if (bytes.capacity() < atMost)
-        bytes.reserve(std::max(atMost, 2 * bytes.capacity()));
-    bytes.resize(atMost);
-
-    char *out = bytes.data() + start;
-    const char16_t *unit = text.utf16();
-    const char16_t *const end = unit + text.size();
-    while (unit != end) {
-        if (*unit < 0x80)
-            out = writeAscii(out, char(*unit++));
-        else
-            out = writeNonAscii(out, unit, end);
-    }
-    bytes.resize(out - bytes.constData());
-}
-
 } // namespace
 
 QString textFromUtf8(std::string_view utf8)
@@ -84,24 +60,30 @@ QString wellFormed(const QString &text)
 
 void Utf8Document::appendText(QStringView text)
 {
-    appendUtf16(m_bytes, text, 1, [](char *out, char character) {
-        *out = character;
-        return out + 1;
-    });
+    static constexpr Escapes none;
+    appendEscaped(text, none);
 }
 
 void Utf8Document::appendEscaped(QStringView text, const Escapes &escapes)
 {
-    std::size_t longest = 1;
-    for (const std::string_view replacement : escapes)
-        longest = std::max(longest, replacement.size());
-    appendUtf16(m_bytes, text, qsizetype(longest), [&escapes](char *out, char character) {
-        const std::string_view replacement = escapes[std::size_t(character)];
-        if (replacement.empty()) {
-            *out = character;
-            return out + 1;
+    char *out = room(text.size() * std::max(bytesPerUnit, escapes.longest()));
+    const char16_t *unit = text.utf16();
+    const char16_t *const end = unit + text.size();
+    while (unit != end) {
+        if (*unit >= 0x80)
+            out = writeNonAscii(out, unit, end);
+        else if (const std::string_view replacement = escapes[*unit]; replacement.empty())
+            *out++ = char(*unit++);
+        else {
+            out = std::copy(replacement.begin(), replacement.end(), out);
+            ++unit;
         }
-        std::memcpy(out, replacement.data(), replacement.size());
-        return out + replacement.size();
-    });
+    }
+    m_size = out - m_bytes.constData();
+}
+
+QByteArray Utf8Document::take()
+{
+    m_bytes.resize(std::exchange(m_size, 0));
+    return std::exchange(m_bytes, {});
 }

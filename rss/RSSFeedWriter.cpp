@@ -7,9 +7,9 @@ namespace {
 
 constexpr Escapes descriptionEscapes = [] {
     Escapes escapes;
-    escapes['&'] = "&amp;";
-    escapes['<'] = "&lt;";
-    escapes['>'] = "&gt;";
+    escapes.replace('&', "&amp;");
+    escapes.replace('<', "&lt;");
+    escapes.replace('>', "&gt;");
     return escapes;
 }();
 

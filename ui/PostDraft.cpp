@@ -31,7 +31,7 @@ void PostDraft::seed(const QVariant &post)
 void PostDraft::saveTo(BlogViewModel *store) const
 {
     const BlogPost post{
-        .id = m_editedId.value_or(QUuid::createUuid()),
+        .id = m_editedId.value_or(randomUuid()),
         .title = wellFormed(m_title),
         .content = m_content,
         .date = m_date,

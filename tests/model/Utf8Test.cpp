@@ -20,8 +20,8 @@ QByteArray asUtf8(QStringView text)
 
 constexpr Escapes angleBrackets = [] {
     Escapes escapes;
-    escapes['<'] = "&lt;";
-    escapes['>'] = "&gt;";
+    escapes.replace('<', "&lt;");
+    escapes.replace('>', "&gt;");
     return escapes;
 }();
 

@@ -1,7 +1,7 @@
 // What holds for the writer and the import whatever the texts.
 #include "rss/RSSFeedImporter.h"
 #include "rss/RSSFeedWriter.h"
-#include "tests/rss/FeedPatterns.h"
+#include "tests/references/FeedPatterns.h"
 #include "tests/rss/FeedSamples.h"
 #include "tests/support/Generators.h"
 

@@ -1,6 +1,6 @@
 // Whole feeds, imported, exported and imported again: our own, and real ones where they are.
 #include "model/BlogViewModel.h"
-#include "tests/rss/FeedPatterns.h"
+#include "tests/references/FeedPatterns.h"
 #include "tests/support/Printers.h"
 #include "tests/support/TemporaryHome.h"
 

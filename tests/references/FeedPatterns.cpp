@@ -1,4 +1,4 @@
-#include "tests/rss/FeedPatterns.h"
+#include "tests/references/FeedPatterns.h"
 
 #include <QRegularExpression>
 
