@@ -55,8 +55,10 @@ display_packages=(
 
 # To test it.
 test_packages=(
+    appstream
     at-spi2-core
     dbus-x11
+    desktop-file-utils
     fonts-noto-cjk
     fonts-noto-color-emoji
     libgmock-dev
@@ -69,7 +71,15 @@ test_packages=(
     python3-pyatspi
     qml6-module-qttest
     rapidjson-dev
+    weston
     xclip
+)
+
+# To pack it, and to try the package.
+packing_packages=(
+    debootstrap
+    dpkg-dev
+    lintian
 )
 
 # To check its source.
