@@ -92,6 +92,8 @@ class Program:
             "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0",
         }
         self.process = None
+        # The screen's points to one of the window's; the tree counts the window's.
+        self.scale = 1
 
     def file(self, name):
         return self.home / name
@@ -102,7 +104,7 @@ class Program:
 
     def begin(self):
         self.process = subprocess.Popen(
-            [self.path], env=self.environment | {"DISPLAY": os.environ["DISPLAY"]}, cwd=self.home,
+            [self.path], env=self.environment | {"DISPLAY": os.environ.get("DISPLAY", "")}, cwd=self.home,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
 
     def wait_for_start(self):
@@ -256,8 +258,8 @@ class Program:
     def point_at(self, node):
         """Moves the mouse to a node's middle, once the node has come to rest."""
         box = wait_for(lambda: box_at_rest(node), "a node to come to rest")
-        subprocess.run(["xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2)],
-                       check=True)
+        x, y = (box.x + box.width // 2) * self.scale, (box.y + box.height // 2) * self.scale
+        subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
 
     def click(self, node, button=1, times=1):
         self.point_at(node)
