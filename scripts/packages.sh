@@ -72,6 +72,7 @@ test_packages=(
     qml6-module-qttest
     rapidjson-dev
     weston
+    weston
     xclip
 )
 
