@@ -72,7 +72,6 @@ test_packages=(
     qml6-module-qttest
     rapidjson-dev
     weston
-    weston
     xclip
 )
 
