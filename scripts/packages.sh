@@ -75,6 +75,11 @@ test_packages=(
     xclip
 )
 
+# To measure it.
+bench_packages=(
+    libbenchmark-dev
+)
+
 # To pack it, and to try the package.
 packing_packages=(
     debootstrap
