@@ -31,10 +31,16 @@ T.Control {
     padding: Theme.padding
 
     Accessible.role: Accessible.ListItem
+    // A control of this kind forgets the role when assistive tools are there, or come.
+    Accessible.onRoleChanged: root.Accessible.role = Accessible.ListItem
     Accessible.name: root.title
     Accessible.description: root.description
     Accessible.focusable: true
-    Accessible.onPressAction: root.requestMenuByKey()
+    // Disabled, it lies behind a sheet.
+    Accessible.onPressAction: {
+        if (root.enabled)
+            root.requestMenuByKey();
+    }
 
     Keys.onPressed: event => {
         const shiftF10 = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier;

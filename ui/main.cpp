@@ -1,6 +1,7 @@
 #include "ui/Translations.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
@@ -26,6 +27,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("tavlo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tavlo"));
     QApplication::setDesktopFileName(QStringLiteral("org.example.Tavlo"));
+    QApplication::setWindowIcon(
+        QIcon(QStringLiteral(":/qt-project.org/imports/Tavlo/rss-logo.svg")));
     installTranslations();
     QApplication::setLayoutDirection(directionOfMessages());
     QQuickStyle::setStyle(QStringLiteral("Basic"));

@@ -13,7 +13,8 @@ Item {
     readonly property real symbolWidth: mark.visible ? mark.width + row.spacing : 0
 
     implicitWidth: root.symbolWidth + title.implicitWidth
-    implicitHeight: row.implicitHeight
+    // Buttons with and without a symbol are of one height, whatever the font's is.
+    implicitHeight: Math.max(row.implicitHeight, mark.height)
 
     Row {
         id: row
