@@ -75,6 +75,12 @@ test_packages=(
     xclip
 )
 
+# To see what the tests reach, and what they would miss.
+test_quality_packages=(
+    bubblewrap
+    gcovr
+)
+
 # To measure it.
 bench_packages=(
     libbenchmark-dev
