@@ -4,7 +4,12 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -24,23 +29,62 @@ bool isRegularFileOrAbsent(const QString &path)
 }
 
 /// The file that a path names once the symbolic links at its end are followed, whether it exists
-/// or not; nothing for links that lead round in a circle.
+/// or not; nothing for links that lead round in a circle, or that cannot be read.
 std::optional<QString> endOfLinks(const QString &path)
 {
     constexpr int mostLinks = 40; // as the system has it
     std::filesystem::path file(QFile::encodeName(path).toStdString());
     for (int links = 0; links < mostLinks; ++links) {
-        std::error_code isNoLink;
-        const auto next = std::filesystem::read_symlink(file, isNoLink);
-        if (isNoLink)
-            return QFile::decodeName(file.c_str());
+        std::error_code error;
+        const auto next = std::filesystem::read_symlink(file, error);
+        if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
+            return QFile::decodeName(file.c_str()); // no link, or nothing yet
+        if (error)
+            return std::nullopt;
         // Joined and not tidied: ".." behind a linked folder climbs from where that folder is.
         file = file.parent_path() / next;
     }
     return std::nullopt;
 }
 
+/// All bytes of an open file; nothing when the disk fails before the end. (QFile::readAll() takes
+/// a failure in the midst of a file for its end.)
+std::optional<QByteArray> readToEnd(QFile &file)
+{
+    // One more than there should be: the read that finds the end needs room too.
+    QByteArray bytes(file.size() + 1, Qt::Uninitialized);
+    qsizetype size = 0;
+    while (const qint64 count = file.read(bytes.data() + size, bytes.size() - size)) {
+        if (count < 0)
+            return std::nullopt;
+        size += count;
+        if (size == bytes.size())
+            bytes.resize(2 * size); // it has grown meanwhile
+    }
+    bytes.truncate(size);
+    return bytes;
+}
+
+/// Waits until the bytes of an open file are on the disk. False when they may not get there; a
+/// file system that has no such thing as a disk is taken at its word.
+bool syncToDisk(int descriptor)
+{
+    int result = 0;
+    do {
+        result = fdatasync(descriptor);
+    } while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EINVAL || errno == ENOTSUP || errno == ENOSYS;
+}
+
 } // namespace
+
+bool isNoFile(const QString &path)
+{
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) == 0)
+        return !S_ISREG(status.st_mode);
+    return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
+}
 
 std::optional<QByteArray> readFile(const QString &path)
 {
@@ -50,10 +94,7 @@ std::optional<QByteArray> readFile(const QString &path)
     QFile file(*source);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return std::nullopt;
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return std::nullopt;
-    return bytes;
+    return readToEnd(file);
 }
 
 bool rewriteFile(const QString &path, const QByteArray &bytes)
@@ -73,8 +114,8 @@ bool replaceFile(const QString &path, const QByteArray &bytes)
     if (!target || target->endsWith(u'/') || !isRegularFileOrAbsent(*target))
         return false;
     QSaveFile file(*target);
-    // Unbuffered: the commit of a buffered file passes over a write that fails as it is closed.
-    // Without a commit the auxiliary file is removed.
+    // Unbuffered: the commit of a buffered file passes over a write that fails as it is closed. It
+    // passes over a failing sync too. Without a commit the auxiliary file is removed.
     return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        && file.write(bytes) == bytes.size() && file.commit();
+        && file.write(bytes) == bytes.size() && syncToDisk(file.handle()) && file.commit();
 }

@@ -8,6 +8,10 @@
 // Whole-file reads and writes. A name that is taken by anything but a regular file (a folder, a
 // pipe, a device; symbolic links are followed) is neither read nor written, and blocks nothing.
 
+/// Whether there is no file to read at a path: nothing at all, or what is no regular file. False
+/// also where that cannot be told.
+bool isNoFile(const QString &path);
+
 /// All bytes of the file; nothing when it cannot be read.
 std::optional<QByteArray> readFile(const QString &path);
 
