@@ -16,14 +16,20 @@
 
 namespace {
 
+/// No path where the directory is not known.
+QString fileIn(const QString &directory, const QString &name)
+{
+    return directory.isEmpty() ? QString() : directory + u'/' + name;
+}
+
 QString postsFile(const QString &directory)
 {
-    return directory + QStringLiteral("/posts.json");
+    return fileIn(directory, QStringLiteral("posts.json"));
 }
 
 QString settingsFile(const QString &directory)
 {
-    return directory + QStringLiteral("/rss_settings.json");
+    return fileIn(directory, QStringLiteral("rss_settings.json"));
 }
 
 [[noreturn]] void endForPositionOutsideList(qsizetype position, qsizetype count)

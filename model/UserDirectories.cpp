@@ -53,10 +53,16 @@ std::optional<QByteArray> directoryOfLine(QByteArray line, const QByteArray &key
     return directory;
 }
 
-/// The table's entry for `key`; as in a shell, the last of several counts.
-std::optional<QString> userDirectory(const QByteArray &key)
+/// The table's bytes, none without a table; nothing when there is one that cannot be read.
+std::optional<QByteArray> userDirectories()
 {
-    const QByteArray table = readFile(userDirectoriesTable()).value_or(QByteArray());
+    const QString table = userDirectoriesTable();
+    return isNoFile(table) ? QByteArray() : readFile(table);
+}
+
+/// The table's entry for `key`; as in a shell, the last of several counts.
+std::optional<QString> userDirectory(const QByteArray &table, const QByteArray &key)
+{
     std::optional<QString> directory;
     for (const QByteArray &line : table.split('\n')) {
         if (const auto entry = directoryOfLine(line, key))
@@ -69,12 +75,15 @@ std::optional<QString> userDirectory(const QByteArray &key)
 
 QString documentsDirectory()
 {
-    return userDirectory("XDG_DOCUMENTS_DIR").value_or(QDir::homePath());
+    const auto table = userDirectories();
+    return table ? userDirectory(*table, "XDG_DOCUMENTS_DIR").value_or(QDir::homePath())
+                 : QString();
 }
 
 QString desktopDirectory()
 {
-    if (const auto directory = userDirectory("XDG_DESKTOP_DIR"))
+    const auto table = userDirectories().value_or(QByteArray());
+    if (const auto directory = userDirectory(table, "XDG_DESKTOP_DIR"))
         return *directory;
     const QString usual = QDir::homePath() + QStringLiteral("/Desktop");
     return QFileInfo(usual).isDir() ? usual : QDir::homePath();
