@@ -21,7 +21,7 @@ Item {
     property alias wrapMode: label.wrapMode
     property alias horizontalAlignment: label.horizontalAlignment
     readonly property alias lineCount: label.lineCount
-    // Whether a change is shown as a movement; otherwise it is done at once.
+    // Whether a change is shown as a movement; otherwise it is done at once, as the first text is.
     property bool animated: false
     // The text on screen: it follows `text`.
     property string shownText: ""
@@ -29,13 +29,14 @@ Item {
     readonly property real textHeight: root.shownText.length > 0 ? label.height : 0
     // How much taller than the text the item is while its height follows.
     property real surplus: 0
+    property bool complete: false
 
     implicitHeight: root.textHeight + root.surplus
     clip: transition.running
 
     onTextChanged: {
         transition.complete();
-        if (root.animated) {
+        if (root.animated && root.complete) {
             const height = root.textHeight;
             former.text = root.shownText;
             root.shownText = root.text;
@@ -45,7 +46,10 @@ Item {
             root.shownText = root.text;
         }
     }
-    Component.onCompleted: root.shownText = root.text
+    Component.onCompleted: {
+        root.shownText = root.text;
+        root.complete = true;
+    }
 
     PlainLabel {
         id: label

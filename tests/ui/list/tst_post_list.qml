@@ -144,6 +144,7 @@ TestCase {
         for (let frame = 0; frame < 10; ++frame) {
             compare(allRows().map(row => placeOf(row)), [16, 16 + row(0).height + 12, 16 + 2 * row(0).height + 24]);
             verify(allRows().every(row => row.children[0].opacity === 1));
+            verify(allRows().every(row => findChild(row, "title").children[0].opacity === 1));
             compare(findChild(root.area, "message").visible, false);
             wait(16);
         }
