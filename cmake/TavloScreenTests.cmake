@@ -1,4 +1,4 @@
-# How Tavlo's tests of the screens are added to CTest.
+# How the tests of the screens are added to CTest.
 
 include(TavloTests)
 
@@ -30,6 +30,14 @@ function(tavlo_add_quick_test name)
         )
         tavlo_run_off_screen(${name}.${part})
     endforeach()
+endfunction()
+
+# tavlo_add_screen_test(<name> <source>...)
+# A GoogleTest program for the C++ that serves the screens, off the screen.
+function(tavlo_add_screen_test name)
+    tavlo_add_test(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE tavlo_ui Qt6::Test)
+    tavlo_run_off_screen(${name})
 endfunction()
 
 # tavlo_run_off_screen(<test>)
