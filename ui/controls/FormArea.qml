@@ -36,12 +36,15 @@ Flickable {
     clip: true
 
     T.ScrollBar.vertical: ScrollIndicatorBar {
+        id: bar
     }
 
     GridLayout {
         id: grid
 
-        width: root.width
+        // The bar stands beside the fields, not on them.
+        x: root.interactive && bar.mirrored ? bar.width : 0
+        width: root.width - (root.interactive ? bar.width : 0)
         height: root.contentHeight
         columns: 2
         columnSpacing: Theme.padding

@@ -71,8 +71,9 @@ FocusScope {
             objectName: "textArea"
             focus: true
             padding: Theme.controlPadding
-            leftPadding: Theme.controlPadding + 2
-            rightPadding: Theme.controlPadding + 8
+            // The scroll bar's side has room for it.
+            leftPadding: Theme.controlPadding + (area.LayoutMirroring.enabled ? 8 : 2)
+            rightPadding: Theme.controlPadding + (area.LayoutMirroring.enabled ? 2 : 8)
             color: root.enabled ? Theme.text : Theme.disabledText
             selectionColor: Theme.selection
             selectedTextColor: Theme.selectedText

@@ -13,6 +13,7 @@ WindowCase {
 
     function cleanup(): void {
         Probe.setTextSize(0);
+        Probe.setRightToLeft(false);
     }
 
     function inside(item: Item, frame: Item): bool {
@@ -112,6 +113,29 @@ WindowCase {
             verify(field.width >= 100, names[i] + " of " + field.width);
             verify(labels[i].contentWidth <= labels[i].width + 1 && !labels[i].truncated, names[i] + "'s label");
         }
+    }
+
+    function test_theScrollBarOfAFormIsBesideItsFields_data(): var {
+        return [{
+                "tag": "from the left",
+                "rightToLeft": false
+            }, {
+                "tag": "from the right",
+                "rightToLeft": true
+            }];
+    }
+
+    function test_theScrollBarOfAFormIsBesideItsFields(data: var): void {
+        Probe.setRightToLeft(data.rightToLeft);
+        openSheet("settingsSheet");
+        waitForLayout();
+        const frame = place(form("settingsSheet"));
+        const bar = place(shownItems(form("settingsSheet")).find(item => item as ScrollIndicatorBar));
+        const field = place(control("settingsSheet", "titleField"));
+        if (data.rightToLeft)
+            verify(bar.left >= frame.left && field.left >= bar.right);
+        else
+            verify(bar.right <= frame.right && field.right <= bar.left);
     }
 
     name: "LargeText"

@@ -60,5 +60,15 @@ WindowCase {
         verify(place(date).left > place(permalink).right);
     }
 
+    function test_textsBeginAtOneDistanceFromTheirFieldsEdges(): void {
+        openSheet("editorSheet");
+        const title = control("editorSheet", "titleField");
+        const area = control("editorSheet", "textArea");
+        const distance = title.rightPadding;
+        fuzzyCompare(place(control("editorSheet", "descriptionField")).right - place(area).right + area.rightPadding, distance, 0.5);
+        // The other side is the scroll bar's.
+        verify(area.leftPadding > area.rightPadding);
+    }
+
     name: "RightToLeft"
 }
