@@ -34,9 +34,7 @@ run_packages=(
     qml6-module-qtquick
     qml6-module-qtquick-controls
     qml6-module-qtquick-layouts
-    qml6-module-qtquick-shapes
     qml6-module-qtquick-templates
-    qml6-module-qtquick-window
     qt6-translations-l10n
     qt6-wayland
     tzdata
@@ -69,6 +67,7 @@ test_packages=(
     python3-feedparser
     python3-gi
     python3-pyatspi
+    qml6-module-qtquick-window
     qml6-module-qttest
     rapidjson-dev
     weston
