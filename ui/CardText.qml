@@ -76,33 +76,24 @@ Item {
 
         onStopped: former.text = ""
 
-        NumberAnimation {
+        EasedAnimation {
             target: label
             property: "opacity"
             from: 0
             to: 1
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
 
-        NumberAnimation {
+        EasedAnimation {
             target: former
             property: "opacity"
             from: 1
             to: 0
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
 
-        NumberAnimation {
+        EasedAnimation {
             target: root
             property: "surplus"
             to: 0
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
     }
 }

@@ -15,10 +15,7 @@ Item {
     visible: root.presence > 0
 
     Behavior on presence  {
-        NumberAnimation {
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
+        EasedAnimation {
         }
     }
 

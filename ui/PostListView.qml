@@ -242,11 +242,8 @@ ListView {
     }
 
     displaced: Transition {
-        NumberAnimation {
+        EasedAnimation {
             property: "y"
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
     }
 
@@ -259,20 +256,14 @@ ListView {
         }
 
         ParallelAnimation {
-            NumberAnimation {
+            EasedAnimation {
                 property: "opacity"
                 to: 0
-                duration: Theme.duration
-                easing.type: Easing.Bezier
-                easing.bezierCurve: Theme.easeInOut
             }
 
-            NumberAnimation {
+            EasedAnimation {
                 property: "y"
                 to: departure.ViewTransition.item.y + departure.ViewTransition.item.height
-                duration: Theme.duration
-                easing.type: Easing.Bezier
-                easing.bezierCurve: Theme.easeInOut
             }
         }
     }
@@ -296,25 +287,19 @@ ListView {
         interval: Theme.duration + 100
     }
 
-    NumberAnimation {
+    EasedAnimation {
         id: settling
 
         target: root
         property: "slack"
         to: 0
-        duration: Theme.duration
-        easing.type: Easing.Bezier
-        easing.bezierCurve: Theme.easeInOut
     }
 
-    NumberAnimation {
+    EasedAnimation {
         id: scroll
 
         target: root
         property: "contentY"
-        duration: Theme.duration
-        easing.type: Easing.Bezier
-        easing.bezierCurve: Theme.easeInOut
     }
 
     // One menu for all cards. It holds a copy of the post: a card may go while the menu is open.

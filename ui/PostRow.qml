@@ -71,46 +71,34 @@ FocusScope {
     ParallelAnimation {
         id: arrival
 
-        NumberAnimation {
+        EasedAnimation {
             target: card
             property: "opacity"
             from: 0
             to: 1
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
 
-        NumberAnimation {
+        EasedAnimation {
             target: root
             property: "shift"
             from: card.height
             to: 0
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
     }
 
     ParallelAnimation {
         id: departure
 
-        NumberAnimation {
+        EasedAnimation {
             target: card
             property: "opacity"
             to: 0
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
 
-        NumberAnimation {
+        EasedAnimation {
             target: root
             property: "shift"
             to: card.height
-            duration: Theme.duration
-            easing.type: Easing.Bezier
-            easing.bezierCurve: Theme.easeInOut
         }
     }
 }
