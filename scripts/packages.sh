@@ -70,6 +70,8 @@ test_packages=(
     qml6-module-qtquick-window
     qml6-module-qttest
     rapidjson-dev
+    strace
+    valgrind
     weston
     xclip
 )

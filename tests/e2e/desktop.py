@@ -69,7 +69,7 @@ class Program:
     """The program in a home of its own, which outlives it: start() may be called again."""
 
     def __init__(self, path):
-        self.path = path
+        self.command = [path]
         self.folder = tempfile.TemporaryDirectory(prefix="tavlo-e2e-")
         self.home = pathlib.Path(self.folder.name)
         (self.home / "runtime").mkdir(mode=0o700)
@@ -104,7 +104,7 @@ class Program:
 
     def begin(self):
         self.process = subprocess.Popen(
-            [self.path], env=self.environment | {"DISPLAY": os.environ.get("DISPLAY", "")}, cwd=self.home,
+            self.command, env=self.environment | {"DISPLAY": os.environ.get("DISPLAY", "")}, cwd=self.home,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
 
     def wait_for_start(self):

@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import subprocess
 
 from desktop import ProgramTest, box_of, has_state, showing, wait_for
 
@@ -19,6 +20,11 @@ DEFAULT_SETTINGS = (
 
 
 class Story(ProgramTest):
+
+    def use(self, program):
+        """Gives the keys to one of several programs on the screen."""
+        self.program = program
+        subprocess.run(["xdotool", "windowactivate", "--sync", program.window], check=True)
 
     # The files
 

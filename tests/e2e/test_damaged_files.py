@@ -3,7 +3,6 @@ and overwrites each with its next save."""
 
 import json
 import re
-import subprocess
 import time
 import unittest
 
@@ -91,11 +90,6 @@ class DamagedFiles(Story):
         put(program.file("posts.json"), posts)
         put(program.file("rss_settings.json"), settings)
         return program
-
-    def use(self, program):
-        """Gives the keys to one of the programs on the screen."""
-        self.program = program
-        subprocess.run(["xdotool", "windowactivate", "--sync", program.window], check=True)
 
     def exported(self):
         """The feed of what the program has taken in."""
