@@ -63,11 +63,9 @@ QString descriptionIn(const Words &words, Random &random)
 
 QUuid someUuid(Random &random)
 {
-    QUuid id = QUuid::createUuid(); // for its version and variant
-    id.data1 = uint(random());
-    id.data2 = ushort(random());
-    id.data4[7] = uchar(random());
-    return id;
+    constexpr ushort version4 = 0x4000;
+    constexpr uchar variant = 0x80;
+    return {uint(random()), ushort(random()), version4, variant, 0, 0, 0, 0, 0, 0, uchar(random())};
 }
 
 } // namespace

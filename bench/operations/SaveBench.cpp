@@ -1,6 +1,6 @@
 // Saving the posts, and the floor beneath it: copying the same bytes and writing them to a file.
-#include "bench/Measure.h"
 #include "bench/SampleBlog.h"
+#include "bench/operations/Operation.h"
 #include "model/BlogViewModel.h"
 #include "model/Files.h"
 #include "model/RecordsJson.h"

@@ -1,6 +1,6 @@
 // Loading the posts, and the floor beneath it: reading the file and decoding its UTF-8 once.
-#include "bench/Measure.h"
 #include "bench/SampleBlog.h"
+#include "bench/operations/Operation.h"
 #include "model/BlogViewModel.h"
 #include "model/Files.h"
 #include "model/RecordsJson.h"

@@ -1,6 +1,6 @@
 // Writing the feed, and the floor beneath it: joining the document's pieces, made beforehand.
-#include "bench/Measure.h"
 #include "bench/SampleBlog.h"
+#include "bench/operations/Operation.h"
 #include "rss/FeedDateFormatter.h"
 #include "rss/RSSFeedWriter.h"
 

@@ -1,6 +1,6 @@
 // Reading a feed's items into records, and the floor beneath it: decoding the same UTF-8 once.
-#include "bench/Measure.h"
 #include "bench/SampleBlog.h"
+#include "bench/operations/Operation.h"
 #include "rss/RSSFeedImporter.h"
 #include "rss/RSSFeedWriter.h"
 
