@@ -23,10 +23,12 @@ Item {
     // The store of a view that was given none. It is made when the view first asks for it.
     readonly property OwnedStore ownStore: OwnedStore {
     }
-    readonly property bool sheetOnScreen: editorSheet.visible || settingsSheet.visible || exportSheet.visible
-    // The least size that holds the header and the largest sheet below it.
-    readonly property int leastWidth: editorSheet.width + 2 * Theme.padding
-    readonly property int leastHeight: header.height + editorSheet.height + 2 * Theme.padding
+    // Whether there is a sheet to be seen; the sheets tell.
+    property bool sheetOnScreen: false
+    // The size of the largest sheet, and the least size that holds it below the header.
+    readonly property size editorSize: Qt.size(700, 600)
+    readonly property int leastWidth: root.editorSize.width + 2 * Theme.padding
+    readonly property int leastHeight: header.height + root.editorSize.height + 2 * Theme.padding
 
     function writeNewPost(): void {
         root.editingPost = undefined;
@@ -109,56 +111,22 @@ Item {
         }
     }
 
-    // Each form is built anew for each showing, in the context of this view. (A component that is
-    // bound to it cannot be built by the sheet in this version of Qt, hence the unchecked names.)
-    // qmllint disable unqualified
-    Sheet {
-        id: editorSheet
+    // The sheets and their forms are loaded beside the window once it shows its first frame, which
+    // need not wait for what it does not show.
+    Loader {
+        id: sheets
 
-        objectName: "editorSheet"
-        width: 700
-        height: 600
-        isPresented: root.showingEditor
-        mayOpen: !settingsSheet.visible && !exportSheet.visible
-        form: BlogPostEditorView {
-            viewModel: root.viewModel
-            isPresented: root.showingEditor && !editorSheet.leaving
-            useDescriptionAsArticle: root.viewModel.useDescriptionAsArticle
-            editingPost: root.editingPost
-            onDismissed: root.showingEditor = false
-        }
+        asynchronous: true
     }
 
-    Sheet {
-        id: settingsSheet
+    Connections {
+        target: root.Window.window
+        enabled: sheets.status === Loader.Null
 
-        objectName: "settingsSheet"
-        width: 500
-        height: 300
-        isPresented: root.showingSettings
-        mayOpen: !editorSheet.visible && !exportSheet.visible
-        form: BlogSettingsView {
-            viewModel: root.viewModel
-            isPresented: root.showingSettings && !settingsSheet.leaving
-            onDismissed: root.showingSettings = false
+        function onFrameSwapped(): void {
+            sheets.setSource("ContentSheets.qml", {
+                    "view": root
+                });
         }
     }
-
-    Sheet {
-        id: exportSheet
-
-        objectName: "exportSheet"
-        width: 500
-        isPresented: root.showingExportPrompt
-        mayOpen: !editorSheet.visible && !settingsSheet.visible
-        form: ExportPromptView {
-            isPresented: root.showingExportPrompt && !exportSheet.leaving
-            exportPath: root.exportPath
-            exportError: root.exportError
-            onExportPathEdited: path => root.exportPath = path
-            onExportRequested: root.exportFeed()
-            onDismissed: root.showingExportPrompt = false
-        }
-    }
-    // qmllint enable unqualified
 }

@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
-#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickStyle>
 
 #include <csignal>
+#include <memory>
 
 namespace {
 
@@ -33,7 +35,12 @@ int main(int argc, char **argv)
     QApplication::setLayoutDirection(directionOfMessages());
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
-    QQmlApplicationEngine engine;
-    engine.load(QUrl(QStringLiteral("qrc:/qt-project.org/imports/Tavlo/TavloApp.qml")));
-    return engine.rootObjects().isEmpty() ? EXIT_FAILURE : QApplication::exec();
+    // A plain engine: QQmlApplicationEngine would look for variants of every file.
+    QQmlEngine engine;
+    QQmlComponent app(&engine,
+                      QUrl(QStringLiteral("qrc:/qt-project.org/imports/Tavlo/TavloApp.qml")));
+    const std::unique_ptr<QObject> window(app.create());
+    if (!window)
+        qFatal("The window cannot be made: %s", qUtf8Printable(app.errorString()));
+    return QApplication::exec();
 }

@@ -21,7 +21,13 @@ TestCase {
         root.view = root.app.contentItem.children[0] as ContentView;
         root.app.requestActivate();
         tryCompare(root.app, "active", true);
+        root.waitForSheets(root.view);
         root.waitForLayout();
+    }
+
+    // Waits until a view has loaded its sheets.
+    function waitForSheets(view: ContentView): void {
+        root.tryVerify(() => root.findChild(view, "editorSheet"));
     }
 
     // Waits until every item on screen has its place.

@@ -219,6 +219,7 @@ WindowCase {
         compare(firstView.showingEditor, true);
         compare(secondView.showingEditor, true);
         compare(Probe.fields(secondView.editingPost), Probe.fields(firstView.editingPost));
+        waitForSheets(secondView);
         tryVerify(() => findChild(secondView, "editorSheet").opened);
         second.requestActivate();
         tryCompare(second, "active", true);

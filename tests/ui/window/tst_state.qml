@@ -75,6 +75,7 @@ WindowCase {
                 "viewModel": given
             });
         view.showingEditor = true;
+        waitForSheets(view);
         tryVerify(() => findChild(view, "editorSheet").opened);
         compare(findChild(view, "editorSheet").contentItem.item.viewModel, given);
         view.showingEditor = false;
@@ -87,6 +88,7 @@ WindowCase {
                 "viewModel": given
             });
         view.showingEditor = true;
+        waitForSheets(view);
         tryVerify(() => findChild(view, "editorSheet").opened);
         compare(findChild(view, "editorSheet").contentItem.item.useDescriptionAsArticle, true);
         view.showingEditor = false;
