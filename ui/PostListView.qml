@@ -196,7 +196,7 @@ ListView {
     spacing: 12
     topMargin: Theme.padding
     bottomMargin: Theme.padding + root.slack
-    cacheBuffer: Math.max(0, root.height)
+    cacheBuffer: Math.max(0, root.height / 2)
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
