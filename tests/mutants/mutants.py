@@ -15,7 +15,7 @@ from difflib import SequenceMatcher
 from pathlib import Path
 
 from mutations import Mutation, mutations_of
-from workshop import Test, Workshop
+from workshop import TEST_FOLDERS, Test, Workshop
 
 LEAST_CAUGHT = 0.90
 
@@ -98,7 +98,7 @@ class Ledger:
 
 def digest_of_tests(root: Path) -> str:
     digest = hashlib.sha256()
-    for folder in ("model", "rss", "support", "references", "data"):
+    for folder in (*TEST_FOLDERS, "support", "references", "data"):
         for path in sorted((root / "tests" / folder).rglob("*")):
             if path.is_file():
                 digest.update(path.read_bytes())
