@@ -2,8 +2,11 @@
 #include "model/Utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <string_view>
+#include <utility>
 
 namespace {
 

@@ -3,6 +3,9 @@
 #include "model/Utf8.h"
 #include "rss/FeedDateFormatter.h"
 
+#include <string_view>
+#include <utility>
+
 namespace {
 
 constexpr Escapes descriptionEscapes = [] {

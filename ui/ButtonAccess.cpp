@@ -7,7 +7,7 @@
 
 namespace {
 
-// What an item says of itself by the Accessible attached type; null if it says nothing.
+/// What an item says of itself by the Accessible attached type; null if it says nothing.
 QObject *accessibleOf(const QObject *item)
 {
     for (QObject *child : item->children()) {
@@ -17,7 +17,7 @@ QObject *accessibleOf(const QObject *item)
     return nullptr;
 }
 
-// A button, or a menu's command, as assistive tools have it.
+/// A button, or a menu's command, as assistive tools have it.
 class ButtonAccess : public QAccessibleObject, public QAccessibleActionInterface
 {
 public:
@@ -113,7 +113,7 @@ public:
 private:
     QQuickItem *button() const { return static_cast<QQuickItem *>(object()); }
 
-    // Owned by the button, and gone with it; so is this interface.
+    /// Owned by the button, and gone with it; so is this interface.
     QObject *m_accessible;
 };
 
