@@ -78,11 +78,6 @@ public:
         state.focusable = button()->activeFocusOnTab();
         state.focused = button()->hasActiveFocus();
         state.pressed = button()->property("down").toBool();
-        state.checkable = m_accessible->property("checkable").toBool();
-        state.checked = m_accessible->property("checked").toBool();
-        state.selectable = m_accessible->property("selectable").toBool();
-        state.selected = m_accessible->property("selected").toBool();
-        state.defaultButton = m_accessible->property("defaultButton").toBool();
         return state;
     }
 

@@ -8,7 +8,6 @@ T.AbstractButton {
 
     // The name of the symbol before the text, or none.
     property string symbol: ""
-    property string help: ""
     property bool prominent: false
     // Whether a disabled button turns grey. One that only waits behind a sheet keeps its look.
     property bool dimWhenDisabled: true
@@ -40,7 +39,6 @@ T.AbstractButton {
     font.weight: Font.Medium
     Accessible.role: Accessible.Button
     Accessible.name: root.text
-    Accessible.description: root.help
     Accessible.onPressAction: {
         if (root.enabled && root.visible)
             root.clicked();

@@ -14,12 +14,6 @@ FocusScope {
     property alias exactText: verbatim.exactText
     readonly property alias textArea: area
 
-    // Takes in what an input method has not committed yet.
-    function commit(): void {
-        if (area.activeFocus)
-            Composition.commit();
-    }
-
     function load(): void {
         // Emptied first: a text that only looks the same must be taken in, too.
         area.text = "";

@@ -12,12 +12,6 @@ T.TextField {
     // While the text scrolls: it moves the cursor's rectangle, which would scroll it again.
     property bool scrolling: false
 
-    // Takes in what an input method has not committed yet.
-    function commit(): void {
-        if (root.activeFocus)
-            Composition.commit();
-    }
-
     // A long text is seen from its start, unless the cursor is in it.
     function showStart(): void {
         if (root.scrolling || root.activeFocus || opener.opened)

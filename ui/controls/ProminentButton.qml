@@ -6,9 +6,12 @@ import Tavlo
 ButtonBase {
     id: root
 
+    property string help: ""
+
     prominent: true
     verticalPadding: Theme.controlPadding + 2
     horizontalPadding: 2 * Theme.controlPadding + 1
+    Accessible.description: root.help
 
     HelpTip {
         objectName: "help"

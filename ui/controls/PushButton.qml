@@ -8,11 +8,4 @@ ButtonBase {
 
     passReturn: true
     horizontalPadding: 2 * Theme.controlPadding + 2
-
-    HelpTip {
-        objectName: "help"
-        target: root
-        pressed: root.down
-        text: root.help
-    }
 }

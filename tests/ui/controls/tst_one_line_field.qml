@@ -318,14 +318,6 @@ Item {
             tryCompare(field, "implicitHeight", height);
         }
 
-        function test_commit_withoutAnInputMethod_changesNothing(): void {
-            field.text = "a";
-            field.commit();
-            after.forceActiveFocus();
-            field.commit();
-            compare(field.text, "a");
-        }
-
         name: "OneLineField"
         when: window.active
     }
