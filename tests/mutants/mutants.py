@@ -12,12 +12,16 @@ import time
 from collections import Counter
 from dataclasses import dataclass
 from difflib import SequenceMatcher
+from functools import cache
 from pathlib import Path
 
+from cpptokens import tokens_of
 from mutations import Mutation, mutations_of
 from workshop import TEST_FOLDERS, Test, Workshop
 
 LEAST_CAUGHT = 0.90
+
+code_of = cache(tokens_of)
 
 
 @dataclass(frozen=True)
@@ -31,8 +35,10 @@ class Mutant:
         return self.source.count("\n", 0, self.mutation.start) + 1
 
     def key(self) -> str:
-        """The same as long as its file stays as it is."""
-        change = (self.file, self.source, self.mutation.start, self.mutation.end, self.mutation.replacement)
+        """The same as long as its file's code stays as it is; comments and inclusions may change."""
+        tokens = code_of(self.source)
+        place = [sum(token.start < offset for token in tokens) for offset in (self.mutation.start, self.mutation.end)]
+        change = (self.file, [token.text for token in tokens], place, self.mutation.replacement)
         return hashlib.sha256(repr(change).encode()).hexdigest()
 
     def describe(self) -> str:
@@ -70,7 +76,7 @@ def shuffled(mutants: list[Mutant], seed: int) -> list[Mutant]:
 class Ledger:
     """What became of each mutant, kept on disk, so that a run goes on where another was stopped.
 
-    A mutant that was caught stays so until its file changes; one that survived is tried again once the tests
+    A mutant that was caught stays so until its file's code changes; one that survived is tried again once the tests
     have changed.
     """
 
