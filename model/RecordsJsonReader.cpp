@@ -213,15 +213,17 @@ auto decode(QByteArray json, Read read)
     -> std::optional<decltype(read(std::declval<simdjson::ondemand::document &>()))>
 {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    // The parser reads a little beyond the end: zeros, in no more memory than they take.
+    const auto size = std::size_t(json.size());
     json.reserve(json.size() + qsizetype(simdjson::SIMDJSON_PADDING));
+    json.append(qsizetype(simdjson::SIMDJSON_PADDING), '\0');
     std::size_t start = 0;
     if (json.startsWith(byteOrderMark.data()))
         start = byteOrderMark.size();
     try {
         simdjson::ondemand::parser parser;
-        simdjson::ondemand::document document =
-            parser.iterate(json.constData() + start, std::size_t(json.size()) - start,
-                           std::size_t(json.capacity()) - start);
+        simdjson::ondemand::document document = parser.iterate(
+            json.constData() + start, size - start, std::size_t(json.size()) - start);
         auto records = read(document);
         if (document.current_location().error() != simdjson::OUT_OF_BOUNDS)
             return std::nullopt;
