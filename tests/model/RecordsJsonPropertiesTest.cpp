@@ -3,11 +3,13 @@
 #include "tests/model/JsonSamples.h"
 #include "tests/references/RecordsByRapidJson.h"
 #include "tests/support/Generators.h"
+#include "tests/support/Noncharacters.h"
 #include "tests/support/Posts.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,6 +20,29 @@ bool readersAgree(const QByteArray &json)
     const auto ours = decodePosts(json);
     const auto others = postsByRapidJson(json);
     return ours.has_value() == others.has_value() && (!ours || identical(*ours, *others));
+}
+
+bool readersAgreeOnSettings(const QByteArray &json)
+{
+    const auto ours = decodeSettings(json);
+    const auto others = settingsByRapidJson(json);
+    return ours.has_value() == others.has_value()
+        && (!ours
+            || (ours->title == others->title && ours->link == others->link
+                && ours->description == others->description));
+}
+
+/// Calls `check` with everything that differs from a document by one byte: changed, or more.
+void forEveryOtherByte(const QByteArray &document, const std::function<void(QByteArray)> &check)
+{
+    for (qsizetype position = 0; position < document.size(); ++position) {
+        for (int byte = 0; byte < 256; ++byte) {
+            QByteArray changed = document;
+            changed[position] = char(byte);
+            check(changed);
+            check(QByteArray(document).insert(position, char(byte)));
+        }
+    }
 }
 
 /// Any JSON value, in a text with white space here and there.
@@ -260,12 +285,33 @@ TEST(RecordsJson, everySingleByteChange_isReadAsAnotherReaderDoes)
     const QByteArray good = postsDocument(
         followedBy(goodPostFields(), "more", R"([{"a":[-1.5e3,null]},true,"\u00e9"])"));
     ASSERT_TRUE(decodePosts(good));
-    for (qsizetype position = 0; position < good.size(); ++position) {
-        for (int byte = 0; byte < 256; ++byte) {
-            QByteArray changed = good;
-            changed[position] = char(byte);
-            ASSERT_TRUE(readersAgree(changed)) << changed.data();
-            ASSERT_TRUE(readersAgree(QByteArray(good).insert(position, char(byte))));
-        }
-    }
+    forEveryOtherByte(good, [](const QByteArray &changed) {
+        EXPECT_TRUE(readersAgree(changed)) << changed.data();
+    });
+
+    const QByteArray settings =
+        jsonObject(followedBy(goodSettingsFields(), "more", R"([null,{"a":1}])"));
+    ASSERT_TRUE(decodeSettings(settings));
+    forEveryOtherByte(settings, [](const QByteArray &changed) {
+        EXPECT_TRUE(readersAgreeOnSettings(changed)) << changed.data();
+    });
+}
+
+TEST(RecordsJson, noncharacters_areCharactersLikeOthers)
+{
+    const QString text = allNoncharacters();
+    const RSSSettings settings{text, text, text};
+    const QByteArray json = encodeSettings(settings);
+    EXPECT_TRUE(json.contains(text.toUtf8()));
+    EXPECT_EQ(decodeSettings(json)->description, text);
+    EXPECT_TRUE(readersAgreeOnSettings(json));
+
+    QByteArray escaped;
+    for (const QChar unit : text)
+        escaped += "\\u" + QByteArray::number(unit.unicode(), 16);
+    const auto fields = with(goodSettingsFields(), "title", '"' + escaped + '"');
+    EXPECT_EQ(decodeSettings(jsonObject(fields))->title, text);
+
+    const BlogPosts posts{postTitled(text)};
+    EXPECT_TRUE(identical(decodePosts(encodePosts(posts).value()).value(), posts));
 }

@@ -2,8 +2,11 @@
 #include "rss/RSSFeedImporter.h"
 #include "rss/RSSFeedWriter.h"
 #include "tests/references/FeedPatterns.h"
+#include "tests/references/TextByIcu.h"
 #include "tests/rss/FeedSamples.h"
 #include "tests/support/Generators.h"
+#include "tests/support/Noncharacters.h"
+#include "tests/support/Posts.h"
 
 #include <QRegularExpression>
 
@@ -125,6 +128,15 @@ void expectWhatThePatternsFind(const QString &feed)
         RC_ASSERT(post.content == post.description);
 }
 
+/// The import and the patterns find the same, or neither takes the bytes for UTF-8.
+bool isImportedAsThePatternsFind(const QByteArray &feed)
+{
+    const auto posts = postsOfFeed(feed, &Date::now);
+    const auto text = textByIcu(feed);
+    return posts.has_value() == text.has_value()
+        && (!posts || itemsOf(*posts) == itemsByPatterns(*text));
+}
+
 } // namespace
 
 TEST(FeedPatterns, haveSomethingToFindInMostGeneratedFeeds)
@@ -222,4 +234,30 @@ RC_GTEST_PROP(FeedProperties, aFeed_isItsPiecesJoined,
         + channel.description + u"</description>\n    "_s + items.join(u'\n')
         + u"\n  </channel>\n</rss>"_s;
     RC_ASSERT(feedOfPosts(channel, posts, neutralRegion) == feed.toUtf8());
+}
+
+TEST(FeedImportOfADamagedFeed, everyTruncationAndEverySingleByteChange_isWhatThePatternsFind)
+{
+    const QByteArray good = "\xEF\xBB\xBF<rss><item><title>\xC3\xA9 A</title><link>L</link>"
+                            "<description>\xF0\x9F\x98\x80</description></item>"
+                            "<item><title>B</title></item></rss>";
+    ASSERT_EQ(imported(good).size(), 2);
+    for (qsizetype size = 0; size <= good.size(); ++size) {
+        EXPECT_TRUE(isImportedAsThePatternsFind(good.left(size))) << size;
+        for (int byte = 0; size < good.size() && byte < 256; ++byte) {
+            QByteArray changed = good;
+            changed[size] = char(byte);
+            EXPECT_TRUE(isImportedAsThePatternsFind(changed)) << changed.data();
+        }
+    }
+}
+
+TEST(FeedImportOfNoncharacters, keepsThemAll)
+{
+    const QString text = allNoncharacters();
+    const BlogPosts posts{postTitled(text)};
+    const BlogPosts back = imported(feedOfPosts({text, text, text}, posts, neutralRegion));
+    ASSERT_EQ(back.size(), 1);
+    EXPECT_EQ(back[0].title, text);
+    EXPECT_EQ(back[0].description, posts[0].description);
 }
