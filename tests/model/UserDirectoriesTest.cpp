@@ -70,6 +70,10 @@ INSTANTIATE_TEST_SUITE_P(
         Table{"XDG_DOCUMENTS_DIR=\"$HOME/One\"\nXDG_DOCUMENTS_DIR=\"relative\"\n", "One"},
         // Escapes.
         Table{R"(XDG_DOCUMENTS_DIR="$HOME/a \"b\" \$c \\d \`e")", R"(a "b" $c \d `e)"},
+        // Without its closing quote an entry goes as far as its line.
+        Table{"XDG_DOCUMENTS_DIR=\"/srv/docs", "/srv/docs"},
+        Table{"XDG_DOCUMENTS_DIR=\"/srv/docs\nXDG_MUSIC_DIR=\"/srv/music\"\n", "/srv/docs"},
+        Table{R"(XDG_DOCUMENTS_DIR="/srv/docs\)", R"(/srv/docs\)"},
         // Ignored: relative, unquoted, another variable, nothing.
         Table{"XDG_DOCUMENTS_DIR=\"Documents\"\n", ""}, Table{"XDG_DOCUMENTS_DIR=\"\"\n", ""},
         Table{"XDG_DOCUMENTS_DIR=$HOME/Documents\n", ""}, Table{"XDG_DOCUMENTS_DIR=/srv\n", ""},

@@ -139,6 +139,16 @@ TEST(Utf8Document, growsOverManyAppends)
     EXPECT_TRUE(document.take() == expected);
 }
 
+TEST(Utf8Document, hasRoomForATextOfNothingButItsLongestEscape)
+{
+    Escapes escapes;
+    escapes.replace('\0', "\\u0000");
+    constexpr qsizetype count = 100'000;
+    Utf8Document document;
+    document.appendEscaped(QString(count, QChar::Null), escapes);
+    EXPECT_TRUE(document.take() == QByteArray("\\u0000").repeated(count));
+}
+
 RC_GTEST_PROP(Utf8Document, isReadBackAsTheSameText, (const QString &text))
 {
     RC_ASSERT(textFromUtf8(asUtf8(text).toStdString()) == text);
