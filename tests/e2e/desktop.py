@@ -12,6 +12,9 @@ import unittest
 # How long anything may take that the program is to do.
 SECONDS = 60
 
+# The longest text in a message, in characters: what is waited for may hold a whole field.
+MOST_OF_A_MESSAGE = 500
+
 # Roles whose nodes are not searched for children: each question to the tree costs time.
 CHILDLESS = {"push button", "heading", "label", "text", "spin button", "scroll bar", "menu item", "tool tip"}
 
@@ -27,7 +30,7 @@ def wait_for(condition, what, seconds=SECONDS):
         if result:
             return result
         if time.monotonic() > end:
-            raise AssertionError(f"waited {seconds} seconds in vain: {what}")
+            raise AssertionError(f"waited {seconds} seconds in vain: {what[:MOST_OF_A_MESSAGE]}")
         time.sleep(0.02)
 
 
@@ -212,9 +215,15 @@ class Program:
         lines = []
 
         def walk(node, depth):
-            states = " ".join(str(state) for state in node.getState().getStates())
-            lines.append(f"{'  ' * depth}{node.getRoleName()} {node.name!r} {node.description!r} {states}")
-            for child in node:
+            try:
+                states = " ".join(str(state) for state in node.getState().getStates())
+                name = node.name[:MOST_OF_A_MESSAGE]
+                lines.append(f"{'  ' * depth}{node.getRoleName()} {name!r} {node.description!r} {states}")
+                children = list(node)
+            except Exception:  # the node went, or the program is too busy to say
+                lines.append(f"{'  ' * depth}?")
+                return
+            for child in children:
                 if child:
                     walk(child, depth + 1)
         application = self.application()
@@ -293,10 +302,13 @@ def box_of(node):
 
 
 def box_at_rest(node):
-    """Where a node is on the screen, or nothing while it moves."""
-    before = box_of(node)
-    time.sleep(0.04)
-    after = box_of(node)
+    """Where a node is on the screen, or nothing while it moves or the program is too busy to say."""
+    try:
+        before = box_of(node)
+        time.sleep(0.04)
+        after = box_of(node)
+    except Exception:
+        return None
     same = (before.x, before.y, before.height) == (after.x, after.y, after.height)
     return after if same and after.width > 0 else None
 
