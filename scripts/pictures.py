@@ -22,6 +22,26 @@ POSTS = [
     ("The last train", "A short story in one paragraph.", "https://example.com/notes/train", 789814800),
 ]
 
+ARABIC_POSTS = [
+    ("أسبوع هادئ في الحديقة", "زرعنا الطماطم، وطلعت الفاصولياء، ووصلت أول السنونوات يوم الثلاثاء. وضعت المقعد القديم "
+     "تحت شجرة الكمثرى ولم أفعل شيئًا يذكر.", "https://example.com/notes/garden", 801306187),
+    ("ملاحظات عن الخبز", "ثلاثة أرغفة ووصفة واحدة. الذي تغيّر هو الوقت: ثماني ساعات، ثم ست عشرة، ثم يوم كامل في البرد.",
+     "https://example.com/notes/bread", 799491600),
+    ("The last train", "A short story in one paragraph: its title and its words run from the left, its card from the right.",
+     "https://example.com/notes/train", 797072400),
+    ("قطار المساء (RSS 2.0)", "قصة قصيرة في فقرة واحدة، فيها كلمة feed.xml وأرقام 2026.", "https://example.com/notes/evening",
+     794653200),
+]
+
+ARABIC_SETTINGS = {
+    "title": "دفتر الحديقة",
+    "link": "https://example.com/garden",
+    "description": "ملاحظات قصيرة عن الحديقة والخبز والقطارات",
+}
+
+# What the desktop portal's colour scheme asks for.
+DARK, LIGHT = 1, 2
+
 PORTAL = """<node><interface name='org.freedesktop.portal.Settings'>
 <method name='Read'><arg type='s' direction='in'/><arg type='s' direction='in'/><arg type='v' direction='out'/></method>
 <signal name='SettingChanged'><arg type='s'/><arg type='s'/><arg type='v'/></signal>
@@ -47,10 +67,12 @@ def pause(seconds):
 
 
 class Desktop:
-    """A display with a window manager, and a session bus whose settings ask for light or dark."""
+    """A display with a window manager, and a session bus whose settings ask for light or dark. The size of text is
+    in pixels; `environment` has further variables of the user's."""
 
-    def __init__(self, number, scheme, scale):
+    def __init__(self, scheme, scale=1, text_size=None, **environment):
         self.scale = scale
+        self.text_size = text_size
         self.bus = Gio.TestDBus.new(Gio.TestDBusFlags.NONE)
         self.bus.up()
         self.connection = Gio.DBusConnection.new_for_address_sync(
@@ -62,10 +84,8 @@ class Desktop:
             None, None)
         Gio.bus_own_name_on_connection(
             self.connection, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, None, None)
-        self.display = f":{number}"
         self.environment = {
             "PATH": os.environ["PATH"],
-            "DISPLAY": self.display,
             "DBUS_SESSION_BUS_ADDRESS": self.bus.get_bus_address(),
             "QT_QPA_PLATFORM": "xcb",
             "QT_SCALE_FACTOR": str(scale),
@@ -73,15 +93,30 @@ class Desktop:
             "LANG": "C.UTF-8",
             "LC_TIME": "en_GB.UTF-8",
             "TZ": "Europe/London",
-        }
-        size = f"{1200 * scale}x{960 * scale}x24"
-        self.processes = [self.start("Xvfb", self.display, "-screen", "0", size, "-nolisten", "tcp")]
-        wait_for(lambda: subprocess.run(["xdotool", "getdisplaygeometry"], env=self.environment,
-                                        capture_output=True).returncode == 0, "The display's start")
+        } | environment
+        if text_size:
+            # The desktop whose settings Qt reads from a file.
+            self.environment |= {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"}
+        self.processes = []
+        self.start_display()
         self.processes.append(self.start("openbox"))
 
-    def start(self, *command, **environment):
-        return subprocess.Popen(command, env=self.environment | environment, stderr=subprocess.DEVNULL)
+    def start_display(self):
+        """Starts an X server, which takes a number that is free and tells it."""
+        size = f"{1200 * self.scale}x{960 * self.scale}x24"
+        reading, writing = os.pipe()
+        self.processes.append(self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", size, "-nolisten", "tcp",
+                                         pass_fds=[writing]))
+        os.close(writing)
+        with os.fdopen(reading) as answer:
+            number = answer.readline().strip()
+        if not number:
+            raise SystemExit("The display did not start")
+        self.environment["DISPLAY"] = f":{number}"
+
+    def start(self, *command, pass_fds=(), **environment):
+        return subprocess.Popen(command, env=self.environment | environment, pass_fds=pass_fds,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def end(self):
         for process in reversed(self.processes):
@@ -94,7 +129,7 @@ class Desktop:
 class Window:
     """The program at work in a home of its own."""
 
-    def __init__(self, desktop, program, posts):
+    def __init__(self, desktop, program, posts, settings=None):
         self.desktop = desktop
         # The folder's name is in the picture of the export prompt.
         self.home = home = pathlib.Path("/tmp/tavlo-home")
@@ -106,6 +141,13 @@ class Window:
             {"id": f"00000000-0000-4000-8000-{number:012}", "title": title, "content": " ", "date": date,
              "description": description, "permalink": permalink}
             for number, (title, description, permalink, date) in enumerate(posts)]))
+        if desktop.text_size:
+            (home / ".config").mkdir()
+            # A font in points, of which there are 72 to an inch; a screen has 96 pixels.
+            (home / ".config" / "kdeglobals").write_text(
+                f"[General]\nfont=Noto Sans,{desktop.text_size * 72 / 96},-1,5,50,0,0,0,0,0\n")
+        if settings:
+            (home / "rss_settings.json").write_text(json.dumps(settings))
         self.process = desktop.start(program, HOME=str(home), XDG_RUNTIME_DIR=str(home / "run"))
         self.id = wait_for(self.find, "The window's appearance")
         pause(1)
@@ -126,8 +168,17 @@ class Window:
         self.act("mousemove", "--window", self.id, x * self.desktop.scale, y * self.desktop.scale, "click", button)
 
     def picture(self, path):
-        subprocess.run(["import", "-window", self.id, "-strip", str(path)], env=self.desktop.environment, check=True)
+        """Takes a picture once nothing moves any more."""
+        before, now = None, self.grab()
+        while now != before:
+            pause(0.2)
+            before, now = now, self.grab()
+        path.write_bytes(now)
         print(path.name, flush=True)
+
+    def grab(self):
+        return subprocess.run(["import", "-window", self.id, "-strip", "png:-"], env=self.desktop.environment,
+                              check=True, capture_output=True).stdout
 
     def end(self):
         self.process.terminate()
@@ -135,10 +186,7 @@ class Window:
         shutil.rmtree(self.home)
 
 
-def take_pictures(desktop, program, folder, suffix):
-    def path(name):
-        return folder / f"{name}-{suffix}.png"
-
+def take_every_screen(desktop, program, path):
     window = Window(desktop, program, [])
     window.picture(path("empty"))
     window.press("ctrl+n")
@@ -165,18 +213,46 @@ def take_pictures(desktop, program, folder, suffix):
     window.end()
 
 
+def take_main_screens(desktop, program, path, posts, settings=None):
+    """The list, the forms and the month, by keys alone: where things stand depends on the desktop."""
+    window = Window(desktop, program, posts, settings)
+    window.picture(path("list"))
+    window.press("Tab", "Tab", "Tab", "Tab")
+    window.press("space")
+    window.picture(path("settings"))
+    window.press("Escape")
+    window.press("ctrl+e")
+    window.picture(path("export"))
+    window.press("Tab", "space")
+    window.press("Tab", "Menu")
+    window.picture(path("card-menu"))
+    window.press("Return")
+    window.picture(path("edit-post"))
+    window.press("Tab", "Tab", "Tab", "alt+Down")
+    window.picture(path("month"))
+    window.end()
+
+
 def main():
     program, folder = sys.argv[1], pathlib.Path(sys.argv[2])
     folder.mkdir(parents=True, exist_ok=True)
-    number = 90
-    for scheme, scheme_name in ((2, "light"), (1, "dark")):
-        for scale in (1, 2):
-            number += 1
-            desktop = Desktop(number, scheme, scale)
-            try:
-                take_pictures(desktop, program, folder, scheme_name + ("" if scale == 1 else "-2x"))
-            finally:
-                desktop.end()
+
+    def on_a_desktop(take, suffix, *arguments, **desktop_options):
+        desktop = Desktop(**desktop_options)
+        try:
+            take(desktop, program, lambda name: folder / f"{name}-{suffix}.png", *arguments)
+        finally:
+            desktop.end()
+
+    for scheme, suffix in ((LIGHT, "light"), (DARK, "dark")):
+        on_a_desktop(take_every_screen, suffix, scheme=scheme)
+        on_a_desktop(take_every_screen, f"{suffix}-2x", scheme=scheme, scale=2)
+
+    arabic = {"LC_MESSAGES": "ar_EG.UTF-8", "LC_TIME": "ar_EG.UTF-8", "TZ": "Africa/Cairo"}
+    on_a_desktop(take_main_screens, "arabic-light", ARABIC_POSTS, ARABIC_SETTINGS, scheme=LIGHT, **arabic)
+    on_a_desktop(take_main_screens, "large-text-light", POSTS, scheme=LIGHT, text_size=26)
+    on_a_desktop(take_main_screens, "arabic-large-text-dark", ARABIC_POSTS, ARABIC_SETTINGS, scheme=DARK,
+                 text_size=26, **arabic)
 
 
 main()
