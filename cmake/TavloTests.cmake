@@ -3,6 +3,9 @@
 # Every test process runs under tests/isolated, in a home of its own with every XDG directory in
 # it, so that no test reads or writes the user's files, nor another test's.
 
+# Debian's own interpreter has Debian's modules.
+find_program(TAVLO_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
+
 set(TAVLO_TEST_LAUNCHER "${PROJECT_SOURCE_DIR}/tests/isolated")
 
 # tavlo_add_test(<name> <source>...)

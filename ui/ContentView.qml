@@ -116,6 +116,7 @@ Item {
     Loader {
         id: sheets
 
+        objectName: "sheets"
         asynchronous: true
     }
 

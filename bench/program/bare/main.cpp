@@ -1,3 +1,4 @@
+// A window that shows one label: what any program of this kind costs.
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>

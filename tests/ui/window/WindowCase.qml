@@ -27,7 +27,7 @@ TestCase {
 
     // Waits until a view has loaded its sheets.
     function waitForSheets(view: ContentView): void {
-        root.tryVerify(() => root.findChild(view, "editorSheet"));
+        root.tryCompare(root.findChild(view, "sheets"), "status", Loader.Ready);
     }
 
     // Waits until every item on screen has its place.
