@@ -55,3 +55,5 @@ class PanelStory(Story):
 
     def import_file(self, path):
         self.choose(self.open_panel(), path)
+        # The next keys are the window's, which the window manager may not have seen yet.
+        self.activate(self.program.window)
