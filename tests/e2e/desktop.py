@@ -45,7 +45,10 @@ class Display:
         self.server = None
         wait_for(lambda: self.start_server(width, height), "a virtual screen")
         os.environ["DISPLAY"] = self.name
-        self.manager = subprocess.Popen(["openbox"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        # Without a window manager no window is given the keys.
+        self.manager = subprocess.Popen(["openbox", "--sm-disable"], stdout=subprocess.DEVNULL,
+                                        stderr=subprocess.DEVNULL)
+        wait_for(self.manager_is_there, "the window manager")
 
     def start_server(self, width, height):
         self.name = f":{Display.number}"
@@ -61,6 +64,12 @@ class Display:
                 return True
         self.server.wait()
         return False
+
+    def manager_is_there(self):
+        if self.manager.poll() is not None:
+            raise AssertionError(f"the window manager ended with {self.manager.returncode}")
+        found = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True)
+        return "window id" in found.stdout
 
     def close(self):
         for process in (self.manager, self.server):
