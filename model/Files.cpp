@@ -34,7 +34,7 @@ std::optional<QString> endOfLinks(const QString &path)
 {
     constexpr int mostLinks = 40; // as the system has it
     std::filesystem::path file(QFile::encodeName(path).toStdString());
-    for (int links = 0; links < mostLinks; ++links) {
+    for (int links = 0; links <= mostLinks; ++links) {
         std::error_code error;
         const auto next = std::filesystem::read_symlink(file, error);
         if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)

@@ -62,6 +62,10 @@ std::vector<DiskFault> everyHindrance(const std::vector<DiskCall> &calls)
             faults.push_back({position, EINTR, Extent::Once});
         if (movesBytes(call))
             faults.push_back({position, 0, Extent::Partial});
+        if (call == DiskCall::Sync) {
+            for (const int notKnownHere : {EINVAL, ENOTSUP, ENOSYS})
+                faults.push_back({position, notKnownHere, Extent::Lasting});
+        }
     }
     return faults;
 }

@@ -10,6 +10,6 @@
 /// middle of it on. An interruption is none of them.
 std::vector<DiskFault> everyFailure(const std::vector<DiskCall> &calls);
 
-/// Each call in turn interrupted, or doing a part of what it was asked to: what is to be carried
-/// on.
+/// Each call in turn interrupted, doing a part of what it was asked to, or not known to a file
+/// system that has no disk to sync: what is to be carried on.
 std::vector<DiskFault> everyHindrance(const std::vector<DiskCall> &calls);

@@ -185,6 +185,20 @@ TEST_F(Files, replacing_aSymbolicLinkToNothing_createsWhatItNames)
     EXPECT_TRUE(QFileInfo(m_home.path(u"link"_s)).isSymLink());
 }
 
+TEST_F(Files, asManyLinksAreFollowed_asTheSystemFollows)
+{
+    constexpr int most = 40;
+    ASSERT_TRUE(QFile::link(u"real"_s, m_home.path(u"1"_s)));
+    for (int link = 1; link <= most; ++link)
+        ASSERT_TRUE(QFile::link(QString::number(link), m_home.path(QString::number(link + 1))));
+    for (const auto write : {&rewriteFile, &replaceFile}) {
+        EXPECT_TRUE(write(m_home.path(QString::number(most)), "followed"));
+        EXPECT_EQ(m_home.read(u"real"_s), "followed");
+        EXPECT_FALSE(write(m_home.path(QString::number(most + 1)), "refused"));
+        EXPECT_EQ(m_home.read(u"real"_s), "followed");
+    }
+}
+
 TEST_F(Files, aWriteThatFailsMidway_leavesAPartOrTheOldFile)
 {
     constexpr qsizetype room = 4096;

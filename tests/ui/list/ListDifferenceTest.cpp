@@ -6,8 +6,8 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <limits>
 #include <map>
 #include <vector>
@@ -265,17 +265,23 @@ RC_GTEST_PROP(ListDifferenceProperty, noUpdateNamesARowThatIsTheSame, ())
     RC_ASSERT(updated == changed);
 }
 
+/// The processor time that this thread has had, in nanoseconds: others do not count.
+double threadNanoseconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e9 + double(now.tv_nsec);
+}
+
 /// The quickest of some runs, in nanoseconds.
 template <typename Function>
 double nanoseconds(Function function)
 {
     double best = std::numeric_limits<double>::infinity();
     for (int run = 0; run < 7; ++run) {
-        const auto start = std::chrono::steady_clock::now();
+        const double start = threadNanoseconds();
         function();
-        const std::chrono::duration<double, std::nano> time =
-            std::chrono::steady_clock::now() - start;
-        best = std::min(best, time.count());
+        best = std::min(best, threadNanoseconds() - start);
     }
     return best;
 }
