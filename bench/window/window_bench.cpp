@@ -47,18 +47,6 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-QQuickItem *firstItemOfType(QQuickItem *root, const char *type)
-{
-    if (root->inherits(type) || QByteArray(root->metaObject()->className()).startsWith(type))
-        return root;
-    const QList<QQuickItem *> children = root->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = firstItemOfType(child, type))
-            return found;
-    }
-    return nullptr;
-}
-
 /// The program's window, its store and its list.
 class Window
 {
@@ -70,7 +58,7 @@ public:
         if (!m_window)
             qFatal("The window cannot be made.");
         runEventsFor(movement);
-        m_list = firstItemOfType(m_window->contentItem(), "PostListView");
+        m_list = m_window->findChild<QQuickItem *>(QStringLiteral("postList"));
         if (!m_list)
             qFatal("There is no list in the window.");
         m_store = m_list->property("viewModel").value<BlogViewModel *>();
