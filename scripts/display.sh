@@ -47,7 +47,8 @@ start_display() {
     cookie=$(mcookie)
     xauth -q -f "$own_folder/server-cookie" add :0 . "$cookie" 2>/dev/null
 
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -auth "$own_folder/server-cookie" \
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset \
+        -auth "$own_folder/server-cookie" \
         3>"$own_folder/number" >"$own_folder/display.log" 2>&1 &
     own_processes+=($!)
     if ! within 20 test -s "$own_folder/number"; then

@@ -106,7 +106,7 @@ class Desktop:
         size = f"{1200 * self.scale}x{960 * self.scale}x24"
         reading, writing = os.pipe()
         self.processes.append(self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", size, "-nolisten", "tcp",
-                                         pass_fds=[writing]))
+                                         "-noreset", pass_fds=[writing]))
         os.close(writing)
         with os.fdopen(reading) as answer:
             number = answer.readline().strip()

@@ -42,21 +42,24 @@ class Display:
     number = 100 + os.getpid() % 50000
 
     def __init__(self, width=1200, height=960):
-        self.server = None
-        wait_for(lambda: self.start_server(width, height), "a virtual screen")
-        os.environ["DISPLAY"] = self.name
-        # Without a window manager no window is given the keys.
-        self.manager = subprocess.Popen(["openbox", "--sm-disable"], stdout=subprocess.DEVNULL,
-                                        stderr=subprocess.DEVNULL)
-        wait_for(self.manager_is_there, "the window manager")
+        self.server = self.manager = None
+        try:
+            wait_for(lambda: self.start_server(width, height), "a virtual screen")
+            os.environ["DISPLAY"] = self.name
+            self.start_manager()
+        except BaseException:
+            self.close()
+            raise
 
     def start_server(self, width, height):
+        """Whether a server runs under the next number. It does not start anew when the last program
+        leaves it: one that comes at that moment would be sent away."""
         self.name = f":{Display.number}"
         Display.number += 1
         reading, writing = os.pipe()
         self.server = subprocess.Popen(
             ["Xvfb", self.name, "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24",
-             "-nolisten", "tcp"],
+             "-nolisten", "tcp", "-noreset"],
             pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as ready:
@@ -64,6 +67,11 @@ class Display:
                 return True
         self.server.wait()
         return False
+
+    def start_manager(self):
+        """Without a window manager no window is given the keys."""
+        self.manager = subprocess.Popen(["openbox", "--sm-disable"])
+        wait_for(self.manager_is_there, "the window manager")
 
     def manager_is_there(self):
         if self.manager.poll() is not None:
@@ -73,8 +81,9 @@ class Display:
 
     def close(self):
         for process in (self.manager, self.server):
-            process.terminate()
-            process.wait()
+            if process:
+                process.terminate()
+                process.wait()
 
 
 class Program:
