@@ -206,6 +206,28 @@ TestCase {
         compare(menuRequests.signalArguments[0][2], false);
     }
 
+    function test_aLongTouchAsksForTheMenu(): void {
+        show(StoreHand.post("t", "d", "p"));
+        const finger = touchEvent(root.card);
+        finger.press(0, root.card, 40, 30).commit();
+        tryCompare(menuRequests, "count", 1);
+        fuzzyCompare(menuRequests.signalArguments[0][0], 40, 1);
+        fuzzyCompare(menuRequests.signalArguments[0][1], 30, 1);
+        compare(menuRequests.signalArguments[0][2], false);
+        finger.release(0, root.card, 40, 30).commit();
+        compare(menuRequests.count, 1);
+    }
+
+    function test_aShortTouchAsksForNothing(): void {
+        show(StoreHand.post("t", "d", "p"));
+        const finger = touchEvent(root.card);
+        finger.press(0, root.card, 40, 30).commit();
+        wait(100);
+        finger.release(0, root.card, 40, 30).commit();
+        wait(1000);
+        compare(menuRequests.count, 0);
+    }
+
     function test_theMenuKeysAskForTheMenu(): void {
         show(StoreHand.post("t"));
         root.card.forceActiveFocus(Qt.TabFocusReason);
@@ -216,10 +238,48 @@ TestCase {
         compare(menuRequests.signalArguments[1][2], true);
     }
 
+    function test_theKeysThatPressAskForTheMenu_data(): var {
+        return [{
+                "tag": "Return",
+                "key": Qt.Key_Return
+            }, {
+                "tag": "Enter",
+                "key": Qt.Key_Enter
+            }, {
+                "tag": "Space",
+                "key": Qt.Key_Space
+            }];
+    }
+
+    function test_theKeysThatPressAskForTheMenu(data: var): void {
+        show(StoreHand.post("t"));
+        root.card.forceActiveFocus(Qt.TabFocusReason);
+        keyPress(data.key);
+        compare(menuRequests.count, 0);
+        keyRelease(data.key);
+        compare(menuRequests.count, 1);
+        compare(menuRequests.signalArguments[0][2], true);
+        keyClick(data.key, Qt.ControlModifier);
+        keyClick(data.key, Qt.ShiftModifier);
+        compare(menuRequests.count, 1);
+    }
+
+    function test_aKeyThatWasPressedElsewhereAsksForNothing(): void {
+        show(StoreHand.post("t"));
+        root.card.forceActiveFocus(Qt.TabFocusReason);
+        keyRelease(Qt.Key_Return);
+        compare(menuRequests.count, 0);
+        keyPress(Qt.Key_Return);
+        root.card.focus = false;
+        root.card.forceActiveFocus(Qt.TabFocusReason);
+        keyRelease(Qt.Key_Return);
+        compare(menuRequests.count, 0);
+    }
+
     function test_noOtherKeyOrClickDoesAnything(): void {
         show(StoreHand.post("t", "d", "p"));
         root.card.forceActiveFocus(Qt.TabFocusReason);
-        for (const key of [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space, Qt.Key_Delete, Qt.Key_Backspace, Qt.Key_E, Qt.Key_F10])
+        for (const key of [Qt.Key_Delete, Qt.Key_Backspace, Qt.Key_E, Qt.Key_F10])
             keyClick(key);
         mouseClick(root.card);
         mouseDoubleClickSequence(root.card);
@@ -243,13 +303,22 @@ TestCase {
     }
 
     function test_assistiveToolsKnowItAsAListItem(): void {
-        show(StoreHand.post("The title", "The description"));
+        show(StoreHand.post("The title", "The description", "https://blog.example"));
         compare(root.card.Accessible.role, Accessible.ListItem);
         compare(root.card.Accessible.name, "The title");
-        compare(root.card.Accessible.description, "The description");
+        compare(root.card.Accessible.description, "The description\nMay 9, 2026\nhttps://blog.example");
         compare(root.card.Accessible.focusable, true);
         root.card.Accessible.pressAction();
         compare(menuRequests.count, 1);
+    }
+
+    function test_assistiveToolsAreToldOfNothingThatIsNotThere(): void {
+        show(StoreHand.post("The title"));
+        compare(root.card.Accessible.description, "May 9, 2026");
+        root.card.dateText = "";
+        compare(root.card.Accessible.description, "");
+        root.card.permalink = "p";
+        compare(root.card.Accessible.description, "p");
     }
 
     function test_mirrored_startsAtTheRight(): void {
