@@ -5,6 +5,7 @@
 
 #include <unicode/smpdtfmt.h>
 
+#include <algorithm>
 #include <array>
 #include <cfenv>
 #include <cmath>
@@ -99,6 +100,18 @@ QByteArray jsonNumber(double number)
     return negative ? '-' + json : json;
 }
 
+/// The second in which a date lies, in Unix time: in the calendar's range, which ICU does not keep
+/// to by itself. NaN is the first second of 2001.
+double secondOf(Date date)
+{
+    constexpr double secondsFrom1970To2001 = 978307200;
+    const double seconds = date.secondsSinceReferenceDate();
+    if (std::isnan(seconds))
+        return secondsFrom1970To2001;
+    return std::clamp(std::floor(seconds) + secondsFrom1970To2001, -184303902528000.0,
+                      183882168921600.0);
+}
+
 QByteArray feedDate(Date date)
 {
     UErrorCode status = U_ZERO_ERROR;
@@ -111,7 +124,7 @@ QByteArray feedDate(Date date)
     check(U_SUCCESS(status), "ICU formats dates");
     icu::UnicodeString text;
     std::string utf8;
-    format->format(double(date.wholeSecondsOfUnixTime()) * 1000, text).toUTF8String(utf8);
+    format->format(secondOf(date) * 1000, text).toUTF8String(utf8);
     return QByteArray::fromStdString(utf8);
 }
 

@@ -16,9 +16,11 @@ qint64 Date::wholeSecondsOfUnixTime() const
 {
     if (std::isnan(m_seconds))
         return referenceDateInUnixTime;
-    // The calendars of Unicode's ICU end there; the bound keeps the conversion to an integer
-    // defined. Floored before the sum: the sum of a fraction just below a second would round up.
-    constexpr double furthest = 183'882'168'921'600.0;
-    const double wholeSeconds = std::clamp(std::floor(m_seconds), -furthest, furthest);
-    return static_cast<qint64>(wholeSeconds) + referenceDateInUnixTime;
+    // The calendars of Unicode's ICU end there; the bounds keep the conversion to an integer
+    // defined.
+    constexpr double first = -184'303'902'528'000.0;
+    constexpr double last = 183'882'168'921'600.0;
+    // Floored before the sum: the sum of a fraction just below a second would round up.
+    const double unixTime = std::floor(m_seconds) + double(referenceDateInUnixTime);
+    return static_cast<qint64>(std::clamp(unixTime, first, last));
 }

@@ -2,6 +2,8 @@
 
 #include <QMetaType>
 
+#include <bit>
+
 /// An instant: seconds in a 64-bit float relative to the reference date, 2001-01-01 00:00:00 UTC.
 ///
 /// Any double is a Date, NaN and the infinities too; the same bits go from file to form to file.
@@ -22,8 +24,11 @@ public:
 
     constexpr double secondsSinceReferenceDate() const { return m_seconds; }
 
+    /// The instant's bits, which tell a date that was kept from one that only equals it.
+    constexpr quint64 bits() const { return std::bit_cast<quint64>(m_seconds); }
+
     /// The whole second at or before this instant, in Unix time: a date that no calendar reaches
-    /// gives the nearest instant that one does (about 5.8 million years either way), NaN gives the
+    /// gives the nearest second that one does (about 5.8 million years either way), NaN gives the
     /// reference date.
     qint64 wholeSecondsOfUnixTime() const;
 

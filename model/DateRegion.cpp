@@ -1,54 +1,61 @@
 #include "model/DateRegion.h"
 
+#include "model/UserLocale.h"
+
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <memory>
+#include <string_view>
 
 namespace {
 
-std::string_view environment(const char *name)
+/// The offset from UTC that the system's clock shows now, in minutes.
+long minutesFromUtcNow()
 {
-    const char *value = std::getenv(name);
-    return value ? value : "";
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    tzset();
+    localtime_r(&now, &local);
+    return local.tm_gmtoff / 60;
 }
 
 /// ICU's name for a fixed offset from UTC: "GMT+09:00".
-std::string nameOfOffset(int milliseconds)
+std::string nameOfOffset(long minutes)
 {
-    const int minutes = std::abs(milliseconds) / (60 * U_MILLIS_PER_SECOND);
-    std::array<char, 16> name{};
-    std::snprintf(name.data(), name.size(), "GMT%c%02d:%02d", milliseconds < 0 ? '-' : '+',
-                  minutes / 60, minutes % 60);
+    std::array<char, 32> name{};
+    std::snprintf(name.data(), name.size(), "GMT%c%02ld:%02ld", minutes < 0 ? '-' : '+',
+                  std::labs(minutes) / 60, std::labs(minutes) % 60);
     return name.data();
 }
 
-/// The zone's name or, where the environment describes one without a name ("JST-9"), its offset's.
+/// Whether the IANA time zone database has a zone of this name.
+bool isInDatabase(const icu::UnicodeString &name)
+{
+    icu::UnicodeString canonicalName;
+    UBool isInDatabase = false;
+    UErrorCode status = U_ZERO_ERROR;
+    icu::TimeZone::getCanonicalID(name, canonicalName, isInDatabase, status);
+    return U_SUCCESS(status) && isInDatabase;
+}
+
+/// The zone's name. One that TZ describes and does not name ("JST-9", "<+0530>-5:30") is known by
+/// its present offset: ICU passes it over and gives the system's own, or takes its sign for the
+/// opposite one.
 std::string userTimeZone()
 {
     const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
     icu::UnicodeString id;
-    zone->getID(id);
-    const std::unique_ptr<icu::TimeZone> named(icu::TimeZone::createTimeZone(id));
-    if (*named == icu::TimeZone::getUnknown())
-        return nameOfOffset(zone->getRawOffset());
     std::string name;
-    return id.toUTF8String(name);
-}
+    zone->getID(id).toUTF8String(name);
 
-/// ICU names a script between language and country, where POSIX appends a modifier.
-std::string_view scriptOfModifier(std::string_view modifier)
-{
-    if (modifier == "latin")
-        return "_Latn";
-    if (modifier == "cyrillic")
-        return "_Cyrl";
-    if (modifier == "devanagari")
-        return "_Deva";
-    return {};
+    const char *const asked = std::getenv("TZ");
+    const bool isNamed = isInDatabase(id) && (!asked || std::string_view(asked).ends_with(name));
+    return isNamed ? name : nameOfOffset(minutesFromUtcNow());
 }
 
 } // namespace
@@ -56,29 +63,4 @@ std::string_view scriptOfModifier(std::string_view modifier)
 DateRegion DateRegion::current()
 {
     return {userLocale("LC_TIME"), userTimeZone()};
-}
-
-std::string userLocale(const char *category)
-{
-    for (const char *name : {"LC_ALL", category, "LANG"}) {
-        if (const std::string_view value = environment(name); !value.empty())
-            return icuLocaleName(value);
-    }
-    return icuLocaleName("C");
-}
-
-std::string icuLocaleName(std::string_view posixName)
-{
-    const std::string_view place = posixName.substr(0, posixName.find_first_of(".@"));
-    if (place.empty() || place == "C" || place == "POSIX")
-        return "en_US_POSIX";
-
-    const std::size_t at = posixName.find('@');
-    const std::string_view modifier =
-        at == std::string_view::npos ? std::string_view() : posixName.substr(at + 1);
-    const std::string_view language = place.substr(0, place.find('_'));
-    std::string name(language);
-    name += scriptOfModifier(modifier);
-    name += place.substr(language.size());
-    return name;
 }

@@ -1,5 +1,7 @@
 #include "rss/FeedDateFormatter.h"
 
+#include "model/FloorDivide.h"
+
 #include <unicode/fieldpos.h>
 #include <unicode/timezone.h>
 #include <unicode/tztrans.h>
@@ -14,14 +16,12 @@ constexpr qint64 secondsOfDay = 86'400;
 constexpr qint64 firstSecondOf1900 = -2'208'988'800;
 constexpr qint64 firstSecondOf2200 = 7'258'118'400;
 
+/// A zone's sign and four digits.
+constexpr int32_t lengthOfOffset = 5;
+
 UDate milliseconds(qint64 unixTime)
 {
     return static_cast<UDate>(unixTime) * U_MILLIS_PER_SECOND;
-}
-
-qint64 floorDivide(qint64 dividend, qint64 divisor)
-{
-    return dividend / divisor - (dividend % divisor < 0 ? 1 : 0);
 }
 
 std::unique_ptr<icu::SimpleDateFormat> makeFormat(const char16_t *pattern,
@@ -106,9 +106,9 @@ const FeedDateFormatter::Offset &FeedDateFormatter::offsetAt(qint64 unixTime)
     int32_t daylightSaving = 0;
     UErrorCode status = U_ZERO_ERROR;
     m_zone->getOffset(milliseconds(unixTime), UBool(false), raw, daylightSaving, status);
-    const std::string whole = formatWhole(unixTime);
-    return m_offsets[begin] = {end, (raw + daylightSaving) / U_MILLIS_PER_SECOND,
-                               whole.substr(whole.size() - 6)};
+    std::string text = formatWhole(unixTime);
+    text.erase(0, text.size() - lengthOfOffset - 1); // the blank ahead of it stays
+    return m_offsets[begin] = {end, (raw + daylightSaving) / U_MILLIS_PER_SECOND, text};
 }
 
 const std::string &FeedDateFormatter::textOfDay(qint64 daysOfUnixTime)
@@ -125,7 +125,6 @@ std::string FeedDateFormatter::formatWhole(qint64 unixTime) const
     icu::FieldPosition zone(UDAT_TIMEZONE_RFC_FIELD);
     m_whole->format(milliseconds(unixTime), text, zone);
     // Local times from before the age of time zones have seconds in their offset; a feed's has not.
-    constexpr int32_t signAndFourDigits = 5;
-    text.truncate(zone.getBeginIndex() + signAndFourDigits);
+    text.truncate(zone.getBeginIndex() + lengthOfOffset);
     return toUtf8(text);
 }

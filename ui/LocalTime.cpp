@@ -1,5 +1,7 @@
 #include "ui/LocalTime.h"
 
+#include "model/FloorDivide.h"
+
 #include <unicode/basictz.h>
 #include <unicode/gregocal.h>
 #include <unicode/timezone.h>
@@ -13,12 +15,6 @@ namespace {
 constexpr qint64 secondsPerMinute = 60;
 constexpr qint64 secondsPerHour = 3600;
 constexpr qint64 secondsPerDay = 86400;
-
-qint64 floorDivide(qint64 dividend, qint64 divisor)
-{
-    const qint64 quotient = dividend / divisor;
-    return dividend % divisor < 0 ? quotient - 1 : quotient;
-}
 
 icu::GregorianCalendar universalCalendar()
 {

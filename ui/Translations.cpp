@@ -1,6 +1,6 @@
 #include "ui/Translations.h"
 
-#include "model/DateRegion.h"
+#include "model/UserLocale.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

@@ -4,72 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <ostream>
 
-namespace {
-
-struct LocaleName
-{
-    const char *posix;
-    const char *icu;
-
-    // NOLINTNEXTLINE(readability-identifier-naming): the name is GoogleTest's.
-    friend void PrintTo(const LocaleName &name, std::ostream *out) { *out << name.posix; }
-};
-
-class IcuLocaleName : public testing::TestWithParam<LocaleName>
-{
-};
-
-} // namespace
-
-TEST_P(IcuLocaleName, isLanguageScriptAndCountryOfThePosixName)
-{
-    EXPECT_EQ(icuLocaleName(GetParam().posix), GetParam().icu);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    PosixNames, IcuLocaleName,
-    testing::Values(LocaleName{"de_DE.UTF-8", "de_DE"}, LocaleName{"de_DE.UTF-8@euro", "de_DE"},
-                    LocaleName{"de_DE@euro", "de_DE"}, LocaleName{"ja_JP.eucJP", "ja_JP"},
-                    LocaleName{"en", "en"}, LocaleName{"fil_PH", "fil_PH"},
-                    LocaleName{"sr_RS", "sr_RS"}, LocaleName{"sr_RS@latin", "sr_Latn_RS"},
-                    LocaleName{"sr_RS.UTF-8@latin", "sr_Latn_RS"},
-                    LocaleName{"sr@latin", "sr_Latn"}, LocaleName{"uz_UZ@cyrillic", "uz_Cyrl_UZ"},
-                    LocaleName{"uz_UZ.UTF-8@cyrillic", "uz_Cyrl_UZ"},
-                    LocaleName{"sd_IN@devanagari", "sd_Deva_IN"},
-                    LocaleName{"ca_ES@valencia", "ca_ES"}, LocaleName{"C", "en_US_POSIX"},
-                    LocaleName{"POSIX", "en_US_POSIX"}, LocaleName{"C.UTF-8", "en_US_POSIX"},
-                    LocaleName{"C.utf8", "en_US_POSIX"}, LocaleName{"", "en_US_POSIX"},
-                    LocaleName{".UTF-8", "en_US_POSIX"}, LocaleName{"@euro", "en_US_POSIX"}));
-
-TEST(UserLocale, isTheFirstOfAllCategoryAndLanguageThatIsNotEmpty)
-{
-    const EnvironmentVariable all("LC_ALL", "de_DE.UTF-8");
-    const EnvironmentVariable time("LC_TIME", "ja_JP.UTF-8");
-    const EnvironmentVariable language("LANG", "fa_IR");
-    EXPECT_EQ(userLocale("LC_TIME"), "de_DE");
-    EXPECT_EQ(DateRegion::current().locale, "de_DE");
-
-    all.set({});
-    EXPECT_EQ(userLocale("LC_TIME"), "ja_JP");
-    EXPECT_EQ(DateRegion::current().locale, "ja_JP");
-
-    // Set but empty counts as unset.
-    all.set("");
-    EXPECT_EQ(userLocale("LC_TIME"), "ja_JP");
-
-    time.set("");
-    EXPECT_EQ(userLocale("LC_TIME"), "fa_IR");
-    EXPECT_EQ(DateRegion::current().locale, "fa_IR");
-
-    language.set("");
-    EXPECT_EQ(userLocale("LC_TIME"), "en_US_POSIX");
-    language.set({});
-    EXPECT_EQ(DateRegion::current().locale, "en_US_POSIX");
-}
-
-TEST(UserLocale, ofDates_doesNotFollowTheLanguageOfMessages)
+TEST(DateRegion, locale_isThatOfDatesAndReadFromTheEnvironmentAtEachCall)
 {
     const EnvironmentVariable all("LC_ALL", {});
     const EnvironmentVariable messages("LC_MESSAGES", "de_DE.UTF-8");
@@ -77,7 +15,8 @@ TEST(UserLocale, ofDates_doesNotFollowTheLanguageOfMessages)
     const EnvironmentVariable time("LC_TIME", {});
     const EnvironmentVariable language("LANG", "th_TH.UTF-8");
     EXPECT_EQ(DateRegion::current().locale, "th_TH");
-    EXPECT_EQ(userLocale("LC_MESSAGES"), "de_DE");
+    time.set("ja_JP.UTF-8");
+    EXPECT_EQ(DateRegion::current().locale, "ja_JP");
 }
 
 TEST(DateRegion, timeZone_isReadFromTheEnvironmentAtEachCall)
@@ -90,12 +29,47 @@ TEST(DateRegion, timeZone_isReadFromTheEnvironmentAtEachCall)
     EXPECT_EQ(DateRegion::current().timeZone, "Europe/Berlin");
     zone.set("UTC");
     EXPECT_EQ(DateRegion::current().timeZone, "UTC");
+    zone.set("Etc/GMT+3"); // three hours west of Greenwich
+    EXPECT_EQ(DateRegion::current().timeZone, "Etc/GMT+3");
 }
 
-TEST(DateRegion, current_ofAZoneWithoutAName_hasItsOffset)
+namespace {
+
+struct UnnamedZone
 {
-    const EnvironmentVariable zone("TZ", "JST-9");
-    EXPECT_EQ(DateRegion::current().timeZone, "GMT+09:00");
-    zone.set("XYZ4");
-    EXPECT_EQ(DateRegion::current().timeZone, "GMT-04:00");
+    const char *description;
+    const char *offset;
+
+    // NOLINTNEXTLINE(readability-identifier-naming): the name is GoogleTest's.
+    friend void PrintTo(const UnnamedZone &zone, std::ostream *out) { *out << zone.description; }
+};
+
+class UnnamedZones : public testing::TestWithParam<UnnamedZone>
+{
+};
+
+} // namespace
+
+TEST_P(UnnamedZones, haveTheOffsetThatTheSystemsClockShows)
+{
+    const EnvironmentVariable zone("TZ", GetParam().description);
+    EXPECT_EQ(DateRegion::current().timeZone, GetParam().offset);
+}
+
+// POSIX counts its offsets westwards.
+INSTANTIATE_TEST_SUITE_P(
+    Descriptions, UnnamedZones,
+    testing::Values(UnnamedZone{"JST-9", "GMT+09:00"}, UnnamedZone{"XYZ4", "GMT-04:00"},
+                    UnnamedZone{"<+03>-3", "GMT+03:00"}, UnnamedZone{"<+0530>-5:30", "GMT+05:30"},
+                    UnnamedZone{"<-0930>9:30", "GMT-09:30"}, UnnamedZone{"GMT+3", "GMT-03:00"},
+                    UnnamedZone{"", "GMT+00:00"}));
+
+TEST(DateRegion, timeZone_ofADescriptionWithDaylightSaving_isItsPresentOffset)
+{
+    const EnvironmentVariable zone("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+    const std::string timeZone = DateRegion::current().timeZone;
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    EXPECT_EQ(timeZone, local.tm_isdst > 0 ? "GMT+02:00" : "GMT+01:00");
 }

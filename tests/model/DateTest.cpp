@@ -84,16 +84,26 @@ TEST(Date, wholeSeconds_ofAnInstantJustBelowASecond_areNotRoundedUpByTheSum)
 
 TEST(Date, wholeSeconds_outsideEveryCalendar_areTheNearestInsideOne)
 {
-    const qint64 last = Date(1e15).wholeSecondsOfUnixTime();
-    const qint64 first = Date(-1e15).wholeSecondsOfUnixTime();
-    constexpr auto millionYears = qint64(1e6 * 365.25 * 86400);
-    EXPECT_GT(last, 5 * millionYears);
-    EXPECT_LT(first, -5 * millionYears);
-    for (const double seconds : {1e19, 1e300, Limits::max(), Limits::infinity()}) {
+    // The first and the last second of ICU's calendars.
+    constexpr qint64 first = -184'303'902'528'000;
+    constexpr qint64 last = 183'882'168'921'600;
+    for (const qint64 second : {first, first + 1, last - 1, last})
+        EXPECT_EQ(Date(double(second - reference)).wholeSecondsOfUnixTime(), second);
+    EXPECT_EQ(Date(double(first - 1 - reference)).wholeSecondsOfUnixTime(), first);
+    EXPECT_EQ(Date(double(last + 1 - reference)).wholeSecondsOfUnixTime(), last);
+    for (const double seconds : {1e15, 1e19, 1e300, Limits::max(), Limits::infinity()}) {
         EXPECT_EQ(Date(seconds).wholeSecondsOfUnixTime(), last);
         EXPECT_EQ(Date(-seconds).wholeSecondsOfUnixTime(), first);
     }
     EXPECT_EQ(Date(Limits::quiet_NaN()).wholeSecondsOfUnixTime(), reference);
+}
+
+TEST(Date, bits_areTheSameForTheSameInstantOnly)
+{
+    EXPECT_EQ(Date(788918400.5).bits(), Date(788918400.5).bits());
+    EXPECT_NE(Date(788918400.5).bits(), Date(std::nextafter(788918400.5, 0)).bits());
+    EXPECT_NE(Date(0.0).bits(), Date(-0.0).bits());
+    EXPECT_EQ(Date(Limits::quiet_NaN()).bits(), Date(Limits::quiet_NaN()).bits());
 }
 
 RC_GTEST_PROP(Date, wholeSeconds_areTheLastAtOrBeforeTheInstant, ())
