@@ -4,11 +4,11 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
+#include <new>
 #include <system_error>
 
 namespace {
@@ -78,14 +78,6 @@ bool syncToDisk(int descriptor)
 
 } // namespace
 
-bool isNoFile(const QString &path)
-{
-    struct stat status = {};
-    if (stat(QFile::encodeName(path).constData(), &status) == 0)
-        return !S_ISREG(status.st_mode);
-    return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
-}
-
 std::optional<QByteArray> readFile(const QString &path)
 {
     const auto source = plainPath(path);
@@ -94,7 +86,11 @@ std::optional<QByteArray> readFile(const QString &path)
     QFile file(*source);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return std::nullopt;
-    return readToEnd(file);
+    try {
+        return readToEnd(file);
+    } catch (const std::bad_alloc &) {
+        return std::nullopt;
+    }
 }
 
 bool rewriteFile(const QString &path, const QByteArray &bytes)

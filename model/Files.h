@@ -8,11 +8,7 @@
 // Whole-file reads and writes. A name that is taken by anything but a regular file (a folder, a
 // pipe, a device; symbolic links are followed) is neither read nor written, and blocks nothing.
 
-/// Whether there is no file to read at a path: nothing at all, or what is no regular file. False
-/// also where that cannot be told.
-bool isNoFile(const QString &path);
-
-/// All bytes of the file; nothing when it cannot be read.
+/// All bytes of the file; nothing when it cannot be read, or is larger than memory.
 std::optional<QByteArray> readFile(const QString &path);
 
 /// Creates the file or replaces its bytes in place: inode, permissions and links stay. Not
@@ -21,5 +17,6 @@ bool rewriteFile(const QString &path, const QByteArray &bytes);
 
 /// Creates the file or takes its place by renaming a complete, synced auxiliary file from the
 /// same folder: readers see the old bytes or the new ones, never a part. A symbolic link is kept
-/// and the file that it names is replaced. False on failure, and nothing is left behind.
+/// and the file that it names is replaced; a file that the user may not write is left alone. False
+/// on failure, and nothing is left behind.
 bool replaceFile(const QString &path, const QByteArray &bytes);

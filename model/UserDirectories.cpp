@@ -6,6 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <sys/stat.h>
+
+#include <cerrno>
 #include <optional>
 
 namespace {
@@ -53,11 +56,20 @@ std::optional<QByteArray> directoryOfLine(QByteArray line, const QByteArray &key
     return directory;
 }
 
+/// Whether there is a file at a path, or may be one: that cannot always be told.
+bool mayBeFile(const QString &path)
+{
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) == 0)
+        return S_ISREG(status.st_mode);
+    return errno != ENOENT && errno != ENOTDIR && errno != ELOOP;
+}
+
 /// The table's bytes, none without a table; nothing when there is one that cannot be read.
 std::optional<QByteArray> userDirectories()
 {
     const QString table = userDirectoriesTable();
-    return isNoFile(table) ? QByteArray() : readFile(table);
+    return mayBeFile(table) ? readFile(table) : QByteArray();
 }
 
 /// The table's entry for `key`; as in a shell, the last of several counts.

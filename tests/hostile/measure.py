@@ -60,7 +60,7 @@ CASES = [
     Case("feed: 10 million short items", "import",
          b"<item><title>t</title><link>l</link><description>d</description></item>", 10_000_000,
          posts=None),
-    # 13 bytes each, of which come a post of 120 in memory and one of 150 in posts.json.
+    # 13 bytes each, of which come a post of 120 in memory and one of 127 in posts.json.
     Case("feed: 10 million empty items", "import", b"<item></item>", 10_000_000, posts=None, grows=True),
     Case("feed: an item of 500 MB", "import", WORDS, 500_000_000 // len(WORDS),
          b"<item><title>", b"", b"</title></item>", 1),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -25,6 +26,8 @@ public:
             throw std::runtime_error("a process cannot be started");
         if (m_process > 0)
             return;
+        // It does not outlive a test that is killed itself.
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
         for (unsigned round = 0;; ++round) {
             m_progress->isWriting = true;
             write(round);
@@ -45,8 +48,11 @@ public:
     /// Waits until it has begun, and then for some time.
     void work(std::chrono::microseconds time) const
     {
-        while (!m_progress->isWriting && m_progress->rounds == 0)
+        while (!m_progress->isWriting && m_progress->rounds == 0) {
+            if (waitpid(m_process, nullptr, WNOHANG) != 0)
+                throw std::runtime_error("the process ended before it began");
             std::this_thread::yield();
+        }
         std::this_thread::sleep_for(time);
     }
 

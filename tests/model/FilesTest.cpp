@@ -126,21 +126,6 @@ TEST_F(Files, aMissingFile_isNotRead)
     EXPECT_EQ(readFile(m_home.path(u"dangling"_s)), std::nullopt);
 }
 
-TEST_F(Files, noFile_isWhatIsMissingOrNoRegularFile)
-{
-    ASSERT_TRUE(QDir().mkpath(m_home.path(u"folder"_s)));
-    makePipe(m_home.path(u"pipe"_s));
-    m_home.write(u"file"_s, "");
-    for (const QString &name :
-         {u"folder"_s, u"pipe"_s, u"missing"_s, u"missing/too"_s, u"file/below"_s})
-        EXPECT_TRUE(isNoFile(m_home.path(name))) << name.toStdString();
-    EXPECT_FALSE(isNoFile(m_home.path(u"file"_s)));
-    ASSERT_TRUE(QFile::link(u"missing"_s, m_home.path(u"dangling"_s)));
-    EXPECT_TRUE(isNoFile(m_home.path(u"dangling"_s)));
-    ASSERT_TRUE(QFile::link(u"circle"_s, m_home.path(u"circle"_s)));
-    EXPECT_TRUE(isNoFile(m_home.path(u"circle"_s)));
-}
-
 TEST_F(Files, whatIsNoRegularFile_isLeftAlone_andBlocksNothing)
 {
     ASSERT_TRUE(QDir().mkpath(m_home.path(u"folder"_s)));

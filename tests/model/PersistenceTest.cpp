@@ -3,8 +3,10 @@
 #include "model/RecordsJson.h"
 #include "tests/model/JsonSamples.h"
 #include "tests/support/CapturedOutput.h"
+#include "tests/support/FileCreationMask.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/Generators.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/Posts.h"
 #include "tests/support/SpecialFiles.h"
 #include "tests/support/TemporaryHome.h"
@@ -83,24 +85,6 @@ bool isAged(const QString &path)
     return statusOf(path).st_mtim.tv_sec == 1'000'000'000;
 }
 
-/// Sets the process's mask of permissions for as long as this object lives.
-class FileModeMask
-{
-public:
-    explicit FileModeMask(mode_t mask)
-        : m_before(umask(mask))
-    {
-    }
-
-    FileModeMask(const FileModeMask &) = delete;
-    FileModeMask &operator=(const FileModeMask &) = delete;
-
-    ~FileModeMask() { umask(m_before); }
-
-private:
-    mode_t m_before;
-};
-
 } // namespace
 
 // Starting.
@@ -117,6 +101,19 @@ TEST_F(PersistenceTest, aFreshStart_createsNoFile_untilTheFirstChange)
     EXPECT_EQ(storedTitles(), QStringList({u"A"_s}));
     store->saveSettings();
     EXPECT_EQ(m_home.names(), QStringList({postsName, settingsName}));
+}
+
+TEST_F(PersistenceTest, aDeletionOfNothing_isAFirstChangeToo)
+{
+    start()->deletePost({});
+    EXPECT_EQ(read(postsName), "[]");
+    EXPECT_EQ(m_home.names(), QStringList({postsName}));
+}
+
+TEST_F(PersistenceTest, anExport_isNoChange)
+{
+    start()->exportRSS(m_home.path(u"feed.xml"_s));
+    EXPECT_EQ(m_home.names(), QStringList({u"feed.xml"_s}));
 }
 
 TEST_F(PersistenceTest, aStore_writesNothingWhenItEnds)
@@ -325,7 +322,7 @@ TEST_F(PersistenceTest, aSave_isInPlace)
 TEST_F(PersistenceTest, newFiles_haveTheDefaultPermissions)
 {
     const auto modeBy = [this](mode_t mask) {
-        const FileModeMask masked(mask);
+        const FileCreationMask masked(mask);
         QFile::remove(m_home.path(postsName));
         QFile::remove(m_home.path(settingsName));
         const auto store = start();
@@ -396,6 +393,33 @@ TEST_F(PersistenceTest, aHardLink_goesOnSharingTheFile)
 }
 
 // Failures, none of which says anything.
+
+TEST_F(PersistenceTest, aReadOnlyFile_isLeftAlone_andWhatWasChangedIsLost)
+{
+    const auto first = start();
+    first->addPost(postTitled(u"Kept"_s));
+    first->saveSettings();
+    const QStringList names{postsName, settingsName};
+    for (const QString &name : names) {
+        ASSERT_TRUE(QFile::setPermissions(m_home.path(name),
+                                          QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+        age(m_home.path(name));
+    }
+    {
+        const OrdinaryUser user({m_home.path()});
+        const auto store = start();
+        store->addPost(postTitled(u"Lost"_s));
+        EXPECT_EQ(titlesOf(store->posts()), QStringList({u"Lost"_s, u"Kept"_s}));
+        store->setBlogTitle(u"Lost"_s);
+        store->saveSettings();
+        EXPECT_EQ(store->blogTitle(), u"Lost"_s);
+    }
+    EXPECT_EQ(titlesOf(start()->posts()), QStringList({u"Kept"_s}));
+    EXPECT_EQ(start()->blogTitle(), u"My Tavlo"_s);
+    for (const QString &name : names)
+        EXPECT_TRUE(isAged(m_home.path(name)));
+    EXPECT_EQ(m_home.names(), names);
+}
 
 TEST_F(PersistenceTest, aFolderInAFilesPlace_isLeftAlone)
 {

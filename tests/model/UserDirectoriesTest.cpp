@@ -150,3 +150,20 @@ TEST_F(UserDirectories, aTableThatIsNoFile_isNone_andBlocksNothing)
     makePipe(m_home.path(u".config/user-dirs.dirs"_s));
     EXPECT_EQ(documentsDirectory(), m_home.path());
 }
+
+TEST_F(UserDirectories, aTableBehindALinkThatLeadsNowhere_isNone)
+{
+    ASSERT_TRUE(QDir().mkpath(m_home.path(u".config"_s)));
+    const QString table = m_home.path(u".config/user-dirs.dirs"_s);
+    for (const QString &target : {u"missing"_s, u"missing/too"_s, u"user-dirs.dirs"_s}) {
+        ASSERT_TRUE(QFile::link(target, table));
+        EXPECT_EQ(documentsDirectory(), m_home.path()) << target.toStdString();
+        QFile::remove(table);
+    }
+}
+
+TEST_F(UserDirectories, aConfigurationThatIsAFile_hasNoTable)
+{
+    m_home.write(u".config"_s, "a file");
+    EXPECT_EQ(documentsDirectory(), m_home.path());
+}

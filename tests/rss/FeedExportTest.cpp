@@ -4,14 +4,15 @@
 #include "tests/rss/ExportFolder.h"
 #include "tests/rss/FeedSamples.h"
 #include "tests/rss/Watchdog.h"
+#include "tests/support/FileCreationMask.h"
 #include "tests/support/FileSizeLimit.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/Posts.h"
 #include "tests/support/Printers.h"
+#include "tests/support/SpecialFiles.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -24,22 +25,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using FeedExport = ExportFolder;
-
-/// The file creation mask, for as long as this object lives.
-class FileCreationMask
-{
-public:
-    explicit FileCreationMask(mode_t mask)
-        : m_before(umask(mask))
-    {
-    }
-    FileCreationMask(const FileCreationMask &) = delete;
-    FileCreationMask &operator=(const FileCreationMask &) = delete;
-    ~FileCreationMask() { umask(m_before); }
-
-private:
-    mode_t m_before;
-};
 
 } // namespace
 
@@ -255,10 +240,26 @@ TEST_F(FeedExport, toAFolder_leavesItAsItIs)
     EXPECT_TRUE(QDir(path("folder")).isEmpty());
 }
 
+TEST_F(FeedExport, toAFileThatTheUserMayNotWrite_leavesItAlone)
+{
+    store->exportRSS(path("feed.xml"));
+    const QByteArray before = bytesOf("feed.xml");
+    ASSERT_EQ(chmod(encoded("feed.xml"), 0444), 0);
+    store->setBlogTitle(u"Renamed"_s);
+    {
+        const OrdinaryUser user({home.path(), path(".")});
+        store->exportRSS(path("feed.xml"));
+        EXPECT_EQ(bytesOf("feed.xml"), before);
+        store->exportRSS(path("other.xml"));
+        EXPECT_EQ(bytesOf("other.xml"), store->generateRSSFeed());
+    }
+    EXPECT_EQ(names(), (QStringList{u"feed.xml"_s, u"other.xml"_s}));
+}
+
 TEST_F(FeedExport, toAPipe_leavesItAloneAndDoesNotWait)
 {
     const Watchdog watchdog;
-    ASSERT_EQ(mkfifo(encoded("pipe"), 0600), 0);
+    makePipe(path("pipe"));
     makeLink("link", "pipe");
     const auto inode = status(encoded("pipe")).st_ino;
     store->exportRSS(path("pipe"));
@@ -271,13 +272,10 @@ TEST_F(FeedExport, toAPipe_leavesItAloneAndDoesNotWait)
 TEST_F(FeedExport, toASocket_leavesItAlone)
 {
     const Watchdog watchdog;
-    const int listener = socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = "socket"}; // in the current folder
-    ASSERT_EQ(bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    const ListeningSocket listener(path("socket"));
     store->exportRSS(path("socket"));
     EXPECT_TRUE(S_ISSOCK(status(encoded("socket")).st_mode));
     EXPECT_EQ(names(), (QStringList{u"socket"_s}));
-    close(listener);
 }
 
 class FeedExportToAFullDisk : public FeedExport, public testing::WithParamInterface<rlim_t>

@@ -45,7 +45,7 @@ protected:
 
     QString path(const QString &name) const { return home.path(name); }
 
-    /// The address of a new file of these bytes.
+    /// The path of a new file of these bytes.
     QString pathOf(const QByteArray &feed, const QString &name = u"feed.xml"_s) const
     {
         home.write(name, feed);
