@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -59,46 +60,43 @@ BlogViewModel::BlogViewModel()
     loadSettings();
 }
 
-void BlogViewModel::setPosts(const BlogPosts &posts)
+template <typename Change>
+void BlogViewModel::change(void (BlogViewModel::*changed)(), Change make)
 {
     emit objectWillChange();
-    m_posts = posts;
-    emit postsChanged();
+    make();
+    emit(this->*changed)();
+}
+
+void BlogViewModel::setPosts(const BlogPosts &posts)
+{
+    change(&BlogViewModel::postsChanged, [&] { m_posts = posts; });
 }
 
 void BlogViewModel::setUseDescriptionAsArticle(bool useDescriptionAsArticle)
 {
-    emit objectWillChange();
-    m_useDescriptionAsArticle = useDescriptionAsArticle;
-    emit useDescriptionAsArticleChanged();
+    change(&BlogViewModel::useDescriptionAsArticleChanged,
+           [&] { m_useDescriptionAsArticle = useDescriptionAsArticle; });
 }
 
 void BlogViewModel::setBlogTitle(const QString &blogTitle)
 {
-    emit objectWillChange();
-    m_blogTitle = blogTitle;
-    emit blogTitleChanged();
+    change(&BlogViewModel::blogTitleChanged, [&] { m_blogTitle = blogTitle; });
 }
 
 void BlogViewModel::setBlogLink(const QString &blogLink)
 {
-    emit objectWillChange();
-    m_blogLink = blogLink;
-    emit blogLinkChanged();
+    change(&BlogViewModel::blogLinkChanged, [&] { m_blogLink = blogLink; });
 }
 
 void BlogViewModel::setBlogDescription(const QString &blogDescription)
 {
-    emit objectWillChange();
-    m_blogDescription = blogDescription;
-    emit blogDescriptionChanged();
+    change(&BlogViewModel::blogDescriptionChanged, [&] { m_blogDescription = blogDescription; });
 }
 
 void BlogViewModel::addPost(const BlogPost &post)
 {
-    emit objectWillChange();
-    m_posts.prepend(post);
-    emit postsChanged();
+    change(&BlogViewModel::postsChanged, [&] { m_posts.prepend(post); });
     savePosts();
 }
 
@@ -109,9 +107,7 @@ void BlogViewModel::updatePost(const BlogPost &post)
     if (old == m_posts.cend())
         return;
     const qsizetype position = old - m_posts.cbegin();
-    emit objectWillChange();
-    m_posts[position] = post;
-    emit postsChanged();
+    change(&BlogViewModel::postsChanged, [&] { m_posts[position] = post; });
     savePosts();
 }
 
@@ -121,10 +117,10 @@ void BlogViewModel::deletePost(const std::set<qsizetype> &at)
         if (position < 0 || position >= m_posts.size())
             endForPositionOutsideList(position, m_posts.size());
     }
-    emit objectWillChange();
-    std::for_each(at.crbegin(), at.crend(),
-                  [this](qsizetype position) { m_posts.removeAt(position); });
-    emit postsChanged();
+    change(&BlogViewModel::postsChanged, [&] {
+        std::for_each(at.crbegin(), at.crend(),
+                      [this](qsizetype position) { m_posts.removeAt(position); });
+    });
     savePosts();
 }
 
@@ -164,8 +160,7 @@ void BlogViewModel::loadPosts()
 
 void BlogViewModel::saveSettings() const
 {
-    const RSSSettings settings{m_blogTitle, m_blogLink, m_blogDescription};
-    rewriteFile(settingsFile(getDocumentsDirectory()), encodeSettings(settings));
+    rewriteFile(settingsFile(getDocumentsDirectory()), encodeSettings(settings()));
 }
 
 void BlogViewModel::loadSettings()
@@ -182,13 +177,17 @@ void BlogViewModel::loadSettings()
 
 QByteArray BlogViewModel::generateRSSFeed() const
 {
-    const RSSSettings channel{m_blogTitle, m_blogLink, m_blogDescription};
-    return feedOfPosts(channel, m_posts, DateRegion::current());
+    return feedOfPosts(settings(), m_posts, DateRegion::current());
 }
 
 void BlogViewModel::exportRSS(const QString &to) const
 {
     replaceFile(to, generateRSSFeed());
+}
+
+RSSSettings BlogViewModel::settings() const
+{
+    return {.title = m_blogTitle, .link = m_blogLink, .description = m_blogDescription};
 }
 
 QString BlogViewModel::getDocumentsDirectory()

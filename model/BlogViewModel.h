@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/BlogPost.h"
+#include "model/RSSSettings.h"
 
 #include <QObject>
 #include <QString>
@@ -61,9 +62,17 @@ public:
     /// nothing and prints a line on standard output.
     Q_INVOKABLE void importRSSFeed(const QString &from);
 
+    /// Rewrites posts.json in place with all posts. Not atomic.
     void savePosts() const;
+
+    /// Replaces the posts by those of posts.json, if all of it can be read and decoded.
     void loadPosts();
+
+    /// Rewrites rss_settings.json in place with the channel settings. Not atomic.
     Q_INVOKABLE void saveSettings() const;
+
+    /// Replaces the channel settings by those of rss_settings.json, if all of it can be read and
+    /// decoded.
     void loadSettings();
 
     /// The blog as an RSS 2.0 document in UTF-8, its dates in the user's locale and time zone.
@@ -73,7 +82,8 @@ public:
     Q_INVOKABLE void exportRSS(const QString &to) const;
 
 signals:
-    /// Sent before any property changes, also when its new value equals the old one.
+    /// Sent before any property changes, also when its new value equals the old one. A receiver
+    /// may read the store, and must not change it.
     void objectWillChange();
 
     // Sent after the property has changed.
@@ -86,6 +96,11 @@ signals:
 private:
     BlogViewModel();
 
+    /// Makes one change of a property, and tells of it before and after.
+    template <typename Change>
+    void change(void (BlogViewModel::*changed)(), Change make);
+
+    RSSSettings settings() const;
     static QString getDocumentsDirectory();
 
     BlogPosts m_posts;

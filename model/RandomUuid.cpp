@@ -7,6 +7,8 @@
 
 QUuid randomUuid()
 {
+    // A generator that the system's source of randomness has seeded: QUuid's own maker asks that
+    // source each time, which takes as long as all the rest of an imported post.
     QRandomGenerator *const random = QRandomGenerator::global();
     const std::array<quint64, 2> bits{random->generate64(), random->generate64()};
     auto id = std::bit_cast<QUuid>(bits);

@@ -2,7 +2,5 @@
 
 #include <QUuid>
 
-/// A random UUID (RFC 4122, version 4). Its bits come from a generator that the system's source of
-/// randomness has seeded: QUuid's own maker asks that source each time, which takes as long as all
-/// the rest of an imported post.
+/// A random UUID (RFC 4122, version 4).
 QUuid randomUuid();

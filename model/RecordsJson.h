@@ -14,7 +14,9 @@
 // the shortest form that reads back to the same bits.
 //
 // Read: keys in any order, the last of a repeated key, any further key ignored; every key of the
-// record must be there with a value of its type. One error anywhere fails the whole document.
+// record must be there with a value of its type. A byte order mark may stand ahead. One error
+// anywhere fails the whole document, as do more than 512 arrays and objects in one another and
+// more than 4 GiB.
 
 /// The posts as a JSON array in list order; nothing when a date is NaN or infinite, which JSON
 /// cannot hold.

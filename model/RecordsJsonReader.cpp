@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 
 // The parser validates what it is asked for and no more, so every value is visited, those under
 // keys that the records do not have too. It reports errors by throwing; they end at the two
@@ -77,15 +78,28 @@ double nearestDouble(std::string_view number)
     return strtod_l(number.data(), nullptr, plain);
 }
 
+void checkDepth(int depth)
+{
+    if (depth > deepestNesting)
+        failDecoding(simdjson::DEPTH_ERROR);
+}
+
 /// Reads past a value, checking all of it.
 void skip(value json, int depth)
 {
     switch (json.type()) {
     case json_type::array:
+        checkDepth(depth);
+        for (auto element : json.get_array())
+            skip(element.value(), depth + 1);
+        return;
     case json_type::object:
-        if (depth > deepestNesting)
-            failDecoding(simdjson::DEPTH_ERROR);
-        break;
+        checkDepth(depth);
+        for (auto field : json.get_object()) {
+            field.unescaped_key().value();
+            skip(field.value(), depth + 1);
+        }
+        return;
     case json_type::string:
         json.get_string().value();
         return;
@@ -100,15 +114,6 @@ void skip(value json, int depth)
             failDecoding(simdjson::N_ATOM_ERROR);
         return;
     }
-    if (json.type() == json_type::array) {
-        for (auto element : json.get_array())
-            skip(element.value(), depth + 1);
-        return;
-    }
-    for (auto field : json.get_object()) {
-        field.unescaped_key().value();
-        skip(field.value(), depth + 1);
-    }
 }
 
 // Each reader below gives nothing for a value of another type. That alone is no error yet: the
@@ -117,7 +122,7 @@ void skip(value json, int depth)
 std::optional<QString> readText(value json, int depth)
 {
     if (json.type() == json_type::string)
-        return textFromUtf8(json.get_string().value());
+        return textFromUtf8(std::string_view(json.get_string()));
     skip(json, depth);
     return std::nullopt;
 }
@@ -212,14 +217,13 @@ template <typename Read>
 auto decode(QByteArray json, Read read)
     -> std::optional<decltype(read(std::declval<simdjson::ondemand::document &>()))>
 {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     // The parser reads a little beyond the end: zeros, in no more memory than they take.
     const auto size = std::size_t(json.size());
     json.reserve(json.size() + qsizetype(simdjson::SIMDJSON_PADDING));
     json.append(qsizetype(simdjson::SIMDJSON_PADDING), '\0');
     std::size_t start = 0;
-    if (json.startsWith(byteOrderMark.data()))
-        start = byteOrderMark.size();
+    if (json.startsWith(byteOrderMark))
+        start = std::size_t(byteOrderMark.size());
     try {
         simdjson::ondemand::parser parser;
         simdjson::ondemand::document document = parser.iterate(

@@ -40,18 +40,9 @@ void appendString(Utf8Document &json, QStringView text)
 
 void appendUuid(Utf8Document &json, const QUuid &id)
 {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::array<char, 36> text{};
-    auto next = text.begin();
-    for (const char byte : id.toRfc4122()) {
-        const std::ptrdiff_t place = next - text.begin();
-        if (place == 8 || place == 13 || place == 18 || place == 23)
-            *next++ = '-';
-        *next++ = digits[uchar(byte) >> 4];
-        *next++ = digits[uchar(byte) & 0xf];
-    }
+    const QByteArray text = id.toByteArray(QUuid::WithoutBraces).toUpper();
     json.append("\"");
-    json.append({text.data(), text.size()});
+    json.append({text.constData(), std::size_t(text.size())});
     json.append("\"");
 }
 

@@ -2,6 +2,8 @@
 
 #include <QStringDecoder>
 
+#include <simdjson.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -39,14 +41,18 @@ char *writeNonAscii(char *out, const char16_t *&unit, const char16_t *end)
 
 } // namespace
 
-QString textFromUtf8(std::string_view utf8)
+bool isUtf8(QByteArrayView bytes)
 {
-    const QByteArrayView bytes(utf8.data(), qsizetype(utf8.size()));
-    if (!bytes.startsWith("\xEF\xBB\xBF"))
-        return QString::fromUtf8(bytes);
+    return simdjson::validate_utf8(bytes.data(), std::size_t(bytes.size()));
+}
+
+QString textFromUtf8(QByteArrayView utf8)
+{
+    if (!utf8.startsWith(byteOrderMark))
+        return QString::fromUtf8(utf8);
     QStringDecoder keepingByteOrderMark(QStringDecoder::Utf8,
                                         QStringDecoder::Flag::ConvertInitialBom);
-    return keepingByteOrderMark(bytes);
+    return keepingByteOrderMark(utf8);
 }
 
 QString wellFormed(const QString &text)
@@ -55,7 +61,7 @@ QString wellFormed(const QString &text)
         return text;
     Utf8Document document;
     document.appendText(text);
-    return textFromUtf8(document.take().toStdString());
+    return textFromUtf8(document.take());
 }
 
 void Utf8Document::appendText(QStringView text)

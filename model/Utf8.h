@@ -1,15 +1,22 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include <algorithm>
 #include <array>
 #include <string_view>
 
-/// The text of bytes that are known to be valid UTF-8 (RFC 3629). Every character is kept, a
+/// U+FEFF in UTF-8, the byte order mark that some programs put at the start of a file.
+inline constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
+
+/// Whether the bytes are valid UTF-8 (RFC 3629).
+bool isUtf8(QByteArrayView bytes);
+
+/// The text of bytes that are known to be valid UTF-8. Every character is kept, a
 /// U+FEFF at the start too.
-QString textFromUtf8(std::string_view utf8);
+QString textFromUtf8(QByteArrayView utf8);
 
 /// The text with each lone surrogate, which UTF-8 cannot hold, replaced by U+FFFD.
 QString wellFormed(const QString &text);

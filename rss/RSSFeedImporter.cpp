@@ -2,8 +2,6 @@
 
 #include "model/Utf8.h"
 
-#include <simdjson.h>
-
 #include <algorithm>
 #include <cstring>
 #include <string_view>
@@ -71,9 +69,9 @@ Date laterOf(Date left, Date right)
 
 std::optional<BlogPosts> postsOfFeed(QByteArrayView feed, const std::function<Date()> &now)
 {
-    const std::string_view text(feed.data(), std::size_t(feed.size()));
-    if (!simdjson::validate_utf8(text))
+    if (!isUtf8(feed))
         return std::nullopt;
+    const std::string_view text(feed.data(), std::size_t(feed.size()));
 
     BlogPosts posts;
     auto item = findElement(text, "<item>", "</item>");
