@@ -10,7 +10,7 @@ Item {
     property BlogViewModel viewModel: root.ownStore.viewModel
     property bool showingEditor: false
     property bool showingSettings: false
-    // Names this view's elements for shared transitions. None uses it yet.
+    // Names this view's elements for shared transitions. None uses it.
     property QtObject animation: QtObject {
     }
     property bool showingExportPrompt: false
@@ -25,10 +25,10 @@ Item {
     }
     // Whether there is a sheet to be seen; the sheets tell.
     property bool sheetOnScreen: false
-    // The size of the largest sheet, and the least size that holds it below the header.
+    // The size of the largest sheet, and the least size that holds it with the padding around it.
     readonly property size editorSize: Qt.size(700, 600)
     readonly property int leastWidth: root.editorSize.width + 2 * Theme.padding
-    readonly property int leastHeight: header.height + root.editorSize.height + 2 * Theme.padding
+    readonly property int leastHeight: root.editorSize.height + 2 * Theme.padding
 
     function writeNewPost(): void {
         root.editingPost = undefined;

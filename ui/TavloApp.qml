@@ -6,16 +6,22 @@ import Tavlo
 ApplicationWindow {
     id: root
 
-    width: Math.max(960, root.minimumWidth)
-    height: Math.max(760, root.minimumHeight)
+    // What the desktop may draw around a window, at most.
+    readonly property int frame: 48
+
     minimumWidth: content.leastWidth
     minimumHeight: content.leastHeight
-    visible: true
     title: "Tavlo"
     color: Theme.window
     font.pixelSize: Theme.bodySize
     LayoutMirroring.enabled: Appearance.rightToLeft
     LayoutMirroring.childrenInherit: true
+    // A size to begin with; from then on it is the user's.
+    Component.onCompleted: {
+        root.width = Math.max(root.minimumWidth, Math.min(960, root.Screen.desktopAvailableWidth - root.frame));
+        root.height = Math.max(root.minimumHeight, Math.min(760, root.Screen.desktopAvailableHeight - root.frame));
+        root.show();
+    }
 
     ContentView {
         id: content

@@ -10,18 +10,31 @@ WindowCase {
         openWindow([]);
     }
 
-    function test_theLeastWindowHoldsTheLargestSheetBelowTheHeader(): void {
-        verify(root.app.minimumWidth >= 700);
-        verify(root.app.width >= root.app.minimumWidth);
-        verify(root.app.height >= root.app.minimumHeight);
+    function test_theLeastWindowHoldsTheLargestSheetAndThePaddingAroundIt(): void {
         root.app.width = root.app.minimumWidth;
         root.app.height = root.app.minimumHeight;
         openSheet("editorSheet");
         const frame = place(form("editorSheet"));
-        verify(frame.left >= 0 && frame.top >= 0);
-        verify(frame.right <= root.app.width && frame.bottom <= root.app.height);
-        const header = place(shownItems(root.view).find(item => item as HeaderView));
-        verify(root.app.height - header.height >= 600);
+        compare(frame.left, Theme.padding);
+        compare(frame.top, Theme.padding);
+        compare(root.app.width - frame.right, Theme.padding);
+        compare(root.app.height - frame.bottom, Theme.padding);
+    }
+
+    function test_theWindowBeginsNoLargerThanTheScreenHolds(): void {
+        const room = Qt.size(root.app.Screen.desktopAvailableWidth, root.app.Screen.desktopAvailableHeight);
+        compare(root.app.width, Math.max(root.app.minimumWidth, Math.min(960, room.width - root.app.frame)));
+        compare(root.app.height, Math.max(root.app.minimumHeight, Math.min(760, room.height - root.app.frame)));
+    }
+
+    function test_theSizeIsTheUsersOnceTheWindowIsThere(): void {
+        root.app.width = 1100;
+        root.app.height = 900;
+        Probe.setTextSize(26);
+        waitForLayout();
+        compare(root.app.width, 1100);
+        compare(root.app.height, 900);
+        Probe.setTextSize(0);
     }
 
     function test_thePageFollowsTheWindow(): void {
