@@ -25,6 +25,8 @@ Item {
     }
     // Whether there is a sheet to be seen; the sheets tell.
     property bool sheetOnScreen: false
+    // Whether the focus was to be seen on the page when the sheet came over it.
+    property bool ringWasShown: false
     // The size of the largest sheet, and the least size that holds it with the padding around it.
     readonly property size editorSize: Qt.size(700, 600)
     readonly property int leastWidth: root.editorSize.width + 2 * Theme.padding
@@ -46,14 +48,24 @@ Item {
         root.exportError = undefined;
     }
 
+    // A sheet is modal to keys and clicks by itself; this closes the page to assistive tools.
+    function leavePage(): void {
+        root.ringWasShown = root.Window.activeFocusItem?.visualFocus ?? false;
+        page.enabled = false;
+        // It would take the focus when it is enabled again, for a reason of its own.
+        page.focus = false;
+    }
+
+    function returnToPage(): void {
+        page.enabled = true;
+        page.forceActiveFocus(root.ringWasShown ? Qt.ShortcutFocusReason : Qt.PopupFocusReason);
+    }
+
     onShowingEditorChanged: {
         if (!root.showingEditor)
             root.editingPost = undefined;
     }
-    onSheetOnScreenChanged: {
-        if (!root.sheetOnScreen)
-            page.forceActiveFocus(Qt.PopupFocusReason);
-    }
+    onSheetOnScreenChanged: root.sheetOnScreen ? root.leavePage() : root.returnToPage()
 
     EditRequests {
         onReceived: post => {
@@ -79,8 +91,6 @@ Item {
 
         anchors.fill: parent
         focus: true
-        // A sheet is modal to keys and clicks by itself; this closes the page to assistive tools.
-        enabled: !root.sheetOnScreen
 
         ColumnLayout {
             anchors.fill: parent
@@ -104,7 +114,7 @@ Item {
 
             PostsArea {
                 viewModel: root.viewModel
-                onFocusLeft: header.focusNewPost()
+                onFocusLeft: reason => header.focusNewPost(reason)
                 Layout.fillWidth: true
                 Layout.fillHeight: true
             }

@@ -15,8 +15,8 @@ Rectangle {
     signal settingsRequested
 
     // Where the focus goes when nothing else can have it.
-    function focusNewPost(): void {
-        newPost.forceActiveFocus(Qt.OtherFocusReason);
+    function focusNewPost(reason: int): void {
+        newPost.forceActiveFocus(reason);
     }
 
     implicitHeight: grid.implicitHeight + 2 * Theme.padding

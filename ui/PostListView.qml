@@ -12,98 +12,40 @@ ListView {
     readonly property alias changing: change.running
     // Whether the list was last used by keys: only then does the focused card show a ring.
     property bool usedByKeys: false
-    // Whether the change that is under way may take the focus from a card.
+    // Whether the focus was here, or in the menu, before the change that is under way.
     property bool hadFocus: false
     readonly property alias menuShown: menu.visible
     // Where the view was before the change that is under way.
     property real placeBefore: 0
-    // Room below the last card in which the view comes down when cards have gone.
+    // Room below the last card, in which the view stays where it is while rows change, and comes
+    // down when the last ones have gone.
     property real slack: 0
 
-    // The card that had the focus has gone, and there is no other.
-    signal focusLeft
-
-    function clamped(position: real): real {
-        const top = root.originY - root.topMargin;
-        const bottom = root.originY + root.contentHeight + Theme.padding - root.height;
-        return Math.max(top, Math.min(position, bottom));
-    }
-
-    // Moves from one place to another. A way longer than a page is cut to a page.
-    function scrollBetween(start: real, end: real): void {
-        const target = root.clamped(end);
-        scroll.stop();
-        root.cancelFlick();
-        root.contentY = Math.max(target - root.height, Math.min(start, target + root.height));
-        scroll.to = target;
-        scroll.start();
-    }
-
-    // Scrolls the shortest way that brings a row and the default padding around it into sight.
-    function bringIntoSight(row: int): void {
-        const start = root.contentY;
-        if (!root.itemAtIndex(row))
-            root.positionViewAtIndex(row, ListView.Contain);
-        const item = root.itemAtIndex(row);
-        const top = item.y - Theme.padding;
-        const bottom = item.y + item.height + Theme.padding - root.height;
-        if (top < root.contentY || bottom > root.contentY || start !== root.contentY)
-            root.scrollBetween(start, top < root.contentY ? top : Math.min(top, Math.max(bottom, root.contentY)));
-    }
+    // The card that had the focus has gone, and there is no other. The reason is one that shows
+    // where the focus goes, if it was shown here.
+    signal focusLeft(int reason)
 
     function focusRow(row: int): void {
         root.usedByKeys = true;
         root.currentIndex = Math.max(0, Math.min(row, root.count - 1));
-        root.bringIntoSight(root.currentIndex);
+        scroller.bringIntoSight(root.currentIndex);
     }
 
     // Goes to the card before or after. One that is higher than the view is scrolled through first.
     function stepBy(rows: int): void {
-        const item = root.currentItem;
-        const hiddenAbove = root.contentY - item.y + Theme.padding;
-        const hiddenBelow = item.y + item.height + Theme.padding - root.contentY - root.height;
-        const hidden = rows < 0 ? hiddenAbove : hiddenBelow;
-        const inSight = hiddenAbove < item.height && hiddenBelow < item.height;
-        if (item.height > root.height && inSight && hidden > 1)
-            root.scrollBetween(root.contentY, root.contentY + rows * Math.min(hidden, root.height / 2));
-        else
+        if (!scroller.readOn(root.currentItem, rows))
             root.focusRow(root.currentIndex + rows);
     }
 
-    // Scrolls by pages and goes to the first card that is then in sight, at an end to the last.
     function pageBy(pages: int): void {
         root.usedByKeys = true;
-        const start = scroll.running ? scroll.to : root.contentY;
-        const page = root.height - 2 * Theme.padding;
-        root.contentY = root.clamped(start + pages * page);
-        root.forceLayout();
-        const end = root.clamped(root.contentY);
-        if (end === start)
-            root.currentIndex = pages < 0 ? 0 : root.count - 1;
-        else
-            root.currentIndex = root.rowBelow(end);
-        root.scrollBetween(start, end);
-    }
-
-    // The first row that begins below a place, or the row that is there.
-    function rowBelow(position: real): int {
-        const row = root.indexAt(root.width / 2, position + root.spacing);
-        if (row < 0)
-            return root.indexAt(root.width / 2, position + Theme.padding + root.spacing);
-        const item = root.itemAtIndex(row);
-        const next = root.itemAtIndex(row + 1);
-        return item.y < position && next && next.y < position + root.height ? row + 1 : row;
+        root.currentIndex = scroller.pageBy(pages);
     }
 
     function goToEnd(atStart: bool): void {
         root.usedByKeys = true;
-        const start = root.contentY;
         root.currentIndex = atStart ? 0 : root.count - 1;
-        if (atStart)
-            root.positionViewAtBeginning();
-        else
-            root.positionViewAtEnd();
-        root.scrollBetween(start, atStart ? -Infinity : Infinity);
+        scroller.goToEnd(atStart);
     }
 
     function openMenu(row: PostRow, x: real, y: real, byKey: bool): void {
@@ -111,6 +53,7 @@ ListView {
         root.currentIndex = row.index;
         row.forceActiveFocus(Qt.OtherFocusReason);
         menu.post = row.post;
+        menu.viewModel = row.viewModel;
         // The card may go while the menu is open, the list does not.
         const place = row.mapToItem(root, x, y);
         menu.openAt(root, place.x, place.y, byKey);
@@ -139,6 +82,7 @@ ListView {
         root.placeBefore = root.contentY;
         change.restart();
         settling.stop();
+        // More than enough for any place: it is taken back to what is needed when the rows are there.
         root.slack = root.contentHeight + root.height;
     }
 
@@ -146,10 +90,10 @@ ListView {
     function showChange(insertedRow: int, replaced: bool): void {
         root.forceLayout();
         if (replaced && root.count > 0) {
-            scroll.stop();
+            scroller.stop();
             root.contentY = root.originY - root.topMargin;
         } else if (insertedRow >= 0) {
-            root.bringIntoSight(insertedRow);
+            scroller.bringIntoSight(insertedRow);
         }
         root.settle();
         root.moveCards(replaced && root.count > 0 ? root.contentY - root.placeBefore : 0);
@@ -161,7 +105,7 @@ ListView {
 
     // Where cards have gone from the end, the view comes down to the last one that is left.
     function settle(): void {
-        const excess = root.contentY - root.clamped(root.contentY);
+        const excess = root.contentY - scroller.clamped(root.contentY);
         root.slack = Math.max(0, excess);
         if (excess > 0)
             settling.start();
@@ -183,7 +127,7 @@ ListView {
 
     function keepFocus(): void {
         if (root.count === 0) {
-            root.focusLeft();
+            root.focusLeft(root.usedByKeys ? Qt.ShortcutFocusReason : Qt.OtherFocusReason);
             return;
         }
         if (root.currentIndex < 0)
@@ -219,7 +163,7 @@ ListView {
             return;
         event.accepted = true;
     }
-    onMovementStarted: scroll.stop()
+    onMovementStarted: scroller.stop()
 
     delegate: PostRow {
         id: row
@@ -269,7 +213,7 @@ ListView {
     }
 
     T.ScrollBar.vertical: ScrollIndicatorBar {
-        onPressedChanged: scroll.stop()
+        onPressedChanged: scroller.stop()
     }
 
     PostListModel {
@@ -284,6 +228,7 @@ ListView {
     Timer {
         id: change
 
+        // The cards begin to move with the next frame, and end with one.
         interval: Theme.duration + 100
     }
 
@@ -295,11 +240,10 @@ ListView {
         to: 0
     }
 
-    EasedAnimation {
-        id: scroll
+    ListScroller {
+        id: scroller
 
-        target: root
-        property: "contentY"
+        list: root
     }
 
     // One menu for all cards. It holds a copy of the post: a card may go while the menu is open.
@@ -307,6 +251,7 @@ ListView {
         id: menu
 
         property var post
+        property BlogViewModel viewModel
 
         objectName: "cardMenu"
 
@@ -317,7 +262,7 @@ ListView {
 
         AppMenuItem {
             text: qsTr("Delete Post")
-            onTriggered: PostActions.remove(root.viewModel, menu.post)
+            onTriggered: PostActions.remove(menu.viewModel, menu.post)
         }
     }
 }

@@ -62,7 +62,8 @@ FocusScope {
             y: root.shift
         }
         onVisualFocusChanged: {
-            if (card.visualFocus)
+            // Focus that only comes back, after a sheet, moves nothing.
+            if (card.visualFocus && card.focusReason !== Qt.ShortcutFocusReason)
                 root.focusedByTab();
         }
         onMenuRequested: (x, y, byKey) => root.menuRequested(card.x + x, y, byKey)

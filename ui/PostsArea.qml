@@ -8,7 +8,7 @@ FocusScope {
 
     required property BlogViewModel viewModel
 
-    signal focusLeft
+    signal focusLeft(int reason)
 
     EmptyStateView {
         anchors.fill: parent
@@ -24,6 +24,6 @@ FocusScope {
         // The list stays while its last cards leave.
         visible: !list.empty || list.changing
         viewModel: root.viewModel
-        onFocusLeft: root.focusLeft()
+        onFocusLeft: reason => root.focusLeft(reason)
     }
 }

@@ -217,6 +217,24 @@ TestCase {
         verify(time > 250 && time < 700, time);
     }
 
+    function test_theEmptyStateTakesThreeTenthsOfASecond(): void {
+        show(StoreHand.store([]));
+        const message = findChild(root.area, "message");
+        const start = Date.now();
+        StoreHand.add(root.store, StoreHand.post("new"));
+        tryVerify(() => !message.visible);
+        const time = Date.now() - start;
+        verify(time > 250 && time < 700, time);
+    }
+
+    // Slow, fast, slow: a quarter of the time is an eighth of the way.
+    function test_everyMovementEasesInAndOut(): void {
+        const pace = createTemporaryObject(paces, root);
+        compare(pace.duration, 300);
+        compare(pace.easing.type, Easing.Bezier);
+        compare(pace.easing.bezierCurve, [0.42, 0, 0.58, 1, 1, 1]);
+    }
+
     function test_aRemovedCardGoesDownByItsOwnHeight(): void {
         show(StoreHand.store(["A", "B", "C"]));
         const place = row(1).y;
@@ -601,6 +619,34 @@ TestCase {
         compare(root.list.currentIndex, 1);
     }
 
+    function test_aFingerScrollsAndOpensNoMenu(): void {
+        show(StoreHand.store(names("P", 40)));
+        const finger = touchEvent(root.list);
+        finger.press(0, root.list, 200, 400).commit();
+        for (let y = 400; y > 200; y -= 20) {
+            wait(20);
+            finger.move(0, root.list, 200, y).commit();
+        }
+        // Longer than a touch that opens the menu.
+        wait(1000);
+        finger.release(0, root.list, 200, 200).commit();
+        verify(root.list.contentY > 100);
+        compare(menu().visible, false);
+    }
+
+    function test_aFingerThatRestsOpensTheMenu(): void {
+        show(StoreHand.store(["A", "B"]));
+        const finger = touchEvent(root.list);
+        const place = card(1).mapToItem(root.list, 60, 30);
+        finger.press(0, root.list, place.x, place.y).commit();
+        tryCompare(menu(), "opened", true);
+        finger.release(0, root.list, place.x, place.y).commit();
+        wait(50);
+        compare(menu().opened, true);
+        compare(menu().post.title, "B");
+        compare(findChild(card(1), "focusRing").visible, false);
+    }
+
     function test_theWheelScrolls(): void {
         show(StoreHand.store(names("P", 40)));
         mouseWheel(root.list, 100, 100, 0, -240);
@@ -836,6 +882,13 @@ TestCase {
         PostsArea {
             anchors.fill: parent
             focus: true
+        }
+    }
+
+    Component {
+        id: paces
+
+        EasedAnimation {
         }
     }
 
