@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Tavlo
 
-// A menu that floats over the window, for AppMenuItem and AppMenuSeparator.
+// A menu that floats over the window, for AppMenuItem and AppMenuSeparator. It goes at once: a menu
+// that faded out would keep the keys of the window behind from working until it has gone.
 T.Menu {
     id: root
 
@@ -46,30 +47,10 @@ T.Menu {
         currentIndex: root.currentIndex
     }
 
-    background: Rectangle {
-        radius: Theme.menuRadius
-        color: Theme.menu
-        border.color: Theme.separator
-
-        SoftShadow {
-            z: -1
-        }
+    background: FloatingGround {
     }
 
-    enter: Transition {
-        NumberAnimation {
-            property: "opacity"
-            from: 0
-            to: 1
-            duration: Theme.hoverDuration
-        }
-    }
-
-    exit: Transition {
-        NumberAnimation {
-            property: "opacity"
-            to: 0
-            duration: Theme.shortDuration
-        }
+    enter: FadeIn {
+        duration: Theme.hoverDuration
     }
 }

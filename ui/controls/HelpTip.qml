@@ -38,29 +38,17 @@ T.ToolTip {
     contentItem: Text {
         text: root.text
         color: Theme.text
-        font.pixelSize: Math.max(Theme.captionSize, Theme.bodySize - 1)
+        font.pixelSize: Theme.bodySize
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
     }
 
-    background: Rectangle {
+    background: FloatingGround {
         radius: 6
-        color: Theme.menu
-        border.color: Theme.separator
-
-        SoftShadow {
-            z: -1
-            radius: 6
-        }
     }
 
-    enter: Transition {
-        NumberAnimation {
-            property: "opacity"
-            from: 0
-            to: 1
-            duration: Theme.shortDuration
-        }
+    enter: FadeIn {
+        duration: Theme.shortDuration
     }
 
     exit: Transition {

@@ -6,14 +6,18 @@ Item {
     id: root
 
     property real radius: Theme.menuRadius
+    readonly property int reach: 12
 
     anchors.fill: parent
 
     Repeater {
-        // The corner radius of each ring, from the inside out.
+        // From the inside out. The last ones are all but clear, so that the shadow has no edge.
         model: Array.from({
-                "length": 10
-            }, (_, width) => root.radius + width)
+                "length": root.reach
+            }, (_, width) => ({
+                        "radius": root.radius + width,
+                        "strength": 1 - width / root.reach
+                    }))
         delegate: SoftShadowRing {
         }
     }

@@ -7,14 +7,15 @@ Rectangle {
     id: root
 
     required property int index
-    required property real modelData
+    // Its corner radius, and its share of the shadow.
+    required property var modelData
 
     anchors.fill: parent
     anchors.leftMargin: -root.index
     anchors.rightMargin: -root.index
     anchors.topMargin: 2 - root.index * 0.7
     anchors.bottomMargin: -2 - root.index
-    radius: root.modelData
+    radius: root.modelData.radius
     color: Theme.shadow
-    opacity: Theme.dark ? 0.05 : 0.018
+    opacity: root.modelData.strength * (Theme.dark ? 0.08 : 0.03)
 }
