@@ -10,6 +10,11 @@ constexpr int halfDay = 12;
 constexpr int fullDay = 24;
 constexpr int lengthOfYear = 4;
 
+QString emptyText()
+{
+    return QStringLiteral("\u2014");
+}
+
 } // namespace
 
 DatePart::DatePart(PostDate *owner, FieldInPattern field)
@@ -84,7 +89,7 @@ QString DatePart::text() const
     if (m_field.field == DateField::DayPeriod)
         return word();
     const int number = value();
-    return number < 0 ? QStringLiteral("\u2014") : words.number(number, m_field.digits);
+    return number < 0 ? emptyText() : words.number(number, m_field.digits);
 }
 
 QString DatePart::word() const
@@ -105,11 +110,18 @@ QStringList DatePart::samples() const
     switch (m_field.field) {
     case DateField::DayPeriod:
         return {words.dayPeriod(false), words.dayPeriod(true)};
-    case DateField::Year:
-        return {words.number(0, lengthOfYear)};
     default:
-        return {words.number(0, 2)};
+        return numberSamples();
     }
+}
+
+QStringList DatePart::numberSamples() const
+{
+    const int length = m_field.field == DateField::Year ? lengthOfYear : 2;
+    QStringList numbers{emptyText()};
+    for (char digit = '0'; digit <= '9'; ++digit)
+        numbers += m_owner->m_words.withOwnDigits(QString(length, QLatin1Char(digit)));
+    return numbers;
 }
 
 bool DatePart::type(const QString &character)

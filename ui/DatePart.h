@@ -93,6 +93,8 @@ private:
     /// An hour from 0 to 23 as the locale counts it, and back.
     int numberOfHour(int hour) const;
     int hourOfNumber(int number) const;
+    /// No number, and one of each digit, as some fonts have digits of several widths.
+    QStringList numberSamples() const;
     /// What the digits typed so far stand for; nothing where they are too few.
     std::optional<int> numberTyped() const;
     bool typeDayPeriod(QChar character);

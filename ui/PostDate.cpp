@@ -1,7 +1,11 @@
 #include "ui/PostDate.h"
 
+#include "ui/DateText.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include <algorithm>
-#include <bit>
 
 namespace {
 
@@ -77,6 +81,35 @@ void PostDate::settle()
     m_draft = heldNumbers();
     m_chosen = m_draft;
     emit partsChanged();
+}
+
+QString PostDate::text() const
+{
+    const auto minute = m_clock.minuteAt(m_date);
+    return minute ? toText(*minute) : QString();
+}
+
+void PostDate::takeText(const QString &text)
+{
+    const auto held = m_clock.minuteAt(m_date);
+    const auto present = m_clock.minuteAt(Date::now()).value_or(LocalMinute());
+    const auto minute = minuteFromText(text, held.value_or(present));
+    if (!minute)
+        return;
+    m_draft = numbersAt(minute);
+    hold();
+    settle();
+}
+
+void PostDate::copy() const
+{
+    if (const QString text = this->text(); !text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
+}
+
+void PostDate::paste()
+{
+    takeText(QGuiApplication::clipboard()->text());
 }
 
 std::optional<int> &PostDate::Numbers::of(DateField field)
@@ -264,9 +297,7 @@ bool PostDate::hold()
 
 void PostDate::setHeld(Date date)
 {
-    using Bits = std::uint64_t;
-    const bool isSame = std::bit_cast<Bits>(date.secondsSinceReferenceDate())
-        == std::bit_cast<Bits>(m_date.secondsSinceReferenceDate());
+    const bool isSame = date.bits() == m_date.bits();
     m_date = date;
     if (!isSame)
         emit dateChanged();

@@ -32,9 +32,8 @@ class PostDate : public QObject
     /// The parts of the day and of the time, each as they stand on screen from left to right.
     Q_PROPERTY(QQmlListProperty<DatePart> dayParts READ dayParts CONSTANT)
     Q_PROPERTY(QQmlListProperty<DatePart> timeParts READ timeParts CONSTANT)
-    /// The first part of each that is read, and the last one of all.
+    /// The first part that is read, and the last one.
     Q_PROPERTY(DatePart *firstDayPart READ firstDayPart CONSTANT)
-    Q_PROPERTY(DatePart *firstTimePart READ firstTimePart CONSTANT)
     Q_PROPERTY(DatePart *lastPart READ lastPart CONSTANT)
     /// The part that has the keyboard, or null, and that of the time which has it or had it last.
     Q_PROPERTY(DatePart *currentPart READ currentPart NOTIFY currentPartChanged)
@@ -57,7 +56,6 @@ public:
     QQmlListProperty<DatePart> dayParts() { return {this, &m_dayParts}; }
     QQmlListProperty<DatePart> timeParts() { return {this, &m_timeParts}; }
     DatePart *firstDayPart() const { return m_firstDayPart; }
-    DatePart *firstTimePart() const { return m_firstTimePart; }
     DatePart *lastPart() const { return m_lastPart; }
     DatePart *currentPart() const { return m_currentPart; }
     DatePart *currentTimePart() const { return m_currentTimePart; }
@@ -74,6 +72,17 @@ public:
     Q_INVOKABLE void takeDay();
     /// Ends all typing: the parts show the date that is held.
     Q_INVOKABLE void settle();
+
+    /// The date that is held as a text that takeText() takes; empty where it has no day.
+    QString text() const;
+    /// Takes day and time from a text like "2026-01-05 14:30", or the day alone and keeps the time.
+    /// Any other text changes nothing.
+    void takeText(const QString &text);
+    /// The same from and to the clipboard, which keeps what it has where there is no text.
+    Q_INVOKABLE void copy() const;
+    Q_INVOKABLE void paste();
+    /// Goes back to the date that was set.
+    Q_INVOKABLE void undo() { setDate(m_start); }
 
 signals:
     void dateChanged();

@@ -324,6 +324,87 @@ TEST_F(PostDateTest, theDayTakenForADateWithoutOne_hasThePresentTime)
                 120);
 }
 
+TEST_F(PostDateTest, aTextOfADayAndATime_setsAllParts)
+{
+    const struct
+    {
+        const char16_t *text;
+        Date date;
+    } cases[] = {
+        {u"1999-07-04 23:59", utcDate(1999, 7, 4, 21, 59, 17.125)},
+        {u"1999-07-04T23:59", utcDate(1999, 7, 4, 21, 59, 17.125)},
+        {u"1999-07-04", utcDate(1999, 7, 4, 19, 5, 17.125)},
+        {u"\n 1999-07-04 \u00a0 23:59\t", utcDate(1999, 7, 4, 21, 59, 17.125)},
+        {u"\u0661\u0669\u0669\u0669-\u0660\u0667-\u0660\u0664", utcDate(1999, 7, 4, 19, 5, 17.125)},
+        {u"1999-07-\U0001d7ce\U0001d7d2 23:59", utcDate(1999, 7, 4, 21, 59, 17.125)},
+        {u"2024-02-29 00:00", utcDate(2024, 2, 28, 23, 0, 17.125)},
+        {u"2026-03-29 02:30", utcDate(2026, 3, 29, 1, 30, 17.125)},
+    };
+    for (const auto &[text, expected] : cases) {
+        date.setDate(evening);
+        date.takeText(QString::fromUtf16(text));
+        EXPECT_EQ(bitsOf(date.date()), bitsOf(expected)) << QString::fromUtf16(text).toStdString();
+        EXPECT_FALSE(date.isUnsettled());
+    }
+}
+
+TEST_F(PostDateTest, anyOtherText_changesNothing)
+{
+    for (const char *text :
+         {"", " ", "1999", "1999-7-4", "1999-07-04 23", "1999-07-04 24:00", "1999-07-04 23:60",
+          "1999-02-29", "0000-01-01", "1999-13-01", "1999-07-00", "19990704", "1999-07-04x",
+          "x1999-07-04", "1999-07-0423:59", "1999-07-04 23:59:00", "99999-07-04", "-1999-07-04"}) {
+        date.takeText(QString::fromLatin1(text));
+        EXPECT_EQ(bitsOf(date.date()), bitsOf(evening)) << text;
+        EXPECT_EQ(shown(date), QStringLiteral("31 01 2026 21 05")) << text;
+    }
+}
+
+TEST_F(PostDateTest, itsOwnText_isTheSameDate)
+{
+    EXPECT_EQ(date.text(), QStringLiteral("2026-01-31 21:05"));
+    for (const double seconds : {700000000.12345678, -63100000000.5, 0.0}) {
+        date.setDate(Date(seconds));
+        date.takeText(date.text());
+        EXPECT_EQ(bitsOf(date.date()), bitsOf(Date(seconds))) << seconds;
+    }
+    date.setDate(utcDate(33, 4, 3, 12));
+    EXPECT_EQ(date.text().left(5), QStringLiteral("0033-"));
+}
+
+TEST_F(PostDateTest, aText_endsTheTyping)
+{
+    partOf(date, DatePart::Year)->type(QStringLiteral("2"));
+    date.takeText(QStringLiteral("1999-07-04"));
+    EXPECT_EQ(shown(date), QStringLiteral("04 07 1999 21 05"));
+}
+
+TEST_F(PostDateTest, aTextOfADay_givesADateWithoutOneThePresentTime)
+{
+    date.setDate(Date(1e300));
+    EXPECT_EQ(date.text(), QString());
+    date.takeText(QStringLiteral("1999-07-04 23:59"));
+    EXPECT_EQ(bitsOf(date.date()), bitsOf(utcDate(1999, 7, 4, 21, 59)));
+    date.setDate(Date(1e300));
+    PostDate present(german);
+    date.takeText(present.text().left(10));
+    EXPECT_NEAR(date.date().secondsSinceReferenceDate(), present.date().secondsSinceReferenceDate(),
+                120);
+}
+
+TEST_F(PostDateTest, undo_givesBackTheBitsThatWereSet)
+{
+    for (const double seconds : {700000000.12345678, -0.0, 1e300, Limits::quiet_NaN()}) {
+        date.setDate(Date(seconds));
+        date.takeText(QStringLiteral("1999-07-04 23:59"));
+        step(DatePart::Minute, 1);
+        partOf(date, DatePart::Year)->type(QStringLiteral("2"));
+        date.undo();
+        EXPECT_EQ(bitsOf(date.date()), bitsOf(Date(seconds))) << seconds;
+        EXPECT_FALSE(date.isUnsettled());
+    }
+}
+
 TEST_F(PostDateTest, tellsOfChangesOfTheDateOnly)
 {
     QSignalSpy changes(&date, &PostDate::dateChanged);
