@@ -9,10 +9,14 @@ T.AbstractButton {
     // The name of the symbol before the text, or none.
     property string symbol: ""
     property bool prominent: false
+    // Whether the button is drawn only under the pointer, or with the focus.
+    property bool flat: false
     // Whether a disabled button turns grey. One that only waits behind a sheet keeps its look.
     property bool dimWhenDisabled: true
     // Whether Return and Enter are left to what is around the button.
     property alias passReturn: keyFilter.passReturn
+    // From the button's edge out to the ring around it.
+    property int ringGap: 2
 
     readonly property bool dimmed: !root.enabled && root.dimWhenDisabled
     readonly property color fill: {
@@ -22,6 +26,8 @@ T.AbstractButton {
             return root.prominent ? Theme.accentPressed : Theme.buttonPressed;
         if (root.hovered)
             return root.prominent ? Theme.accentHovered : Theme.buttonHovered;
+        if (root.flat)
+            return Qt.alpha(Theme.buttonHovered, 0);
         return root.prominent ? Theme.accent : Theme.button;
     }
     readonly property color ink: {
@@ -60,7 +66,7 @@ T.AbstractButton {
     background: Rectangle {
         radius: Theme.controlRadius
         color: root.fill
-        border.width: root.prominent && !root.dimmed ? 0 : 1
+        border.width: root.flat || (root.prominent && !root.dimmed) ? 0 : 1
         border.color: root.dimmed ? Theme.borderDisabled : Theme.border
 
         Behavior on color  {
@@ -73,6 +79,7 @@ T.AbstractButton {
             objectName: "focusRing"
             visible: root.visualFocus
             innerRadius: Theme.controlRadius
+            gap: root.ringGap
         }
     }
 }

@@ -1,24 +1,18 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tavlo
 
-// A square button of the date field that shows a symbol alone.
-T.AbstractButton {
+// A square button of the date field that shows a symbol alone. It is as high as a field.
+ButtonBase {
     id: root
 
-    required property string symbol
     required property string name
-    // Whether the button is drawn when the pointer and the focus are elsewhere.
-    property bool flat: false
 
     implicitWidth: root.implicitHeight
-    implicitHeight: metrics.height + 2 * Theme.controlPadding
-    Accessible.role: Accessible.Button
+    implicitHeight: Math.ceil(metrics.height) + 2 * Theme.controlPadding
+    passReturn: true
+    // A scrolling form, which cuts off what lies outside its rows, is not to cut the ring.
+    ringGap: -Theme.focusWidth
     Accessible.name: root.name
-    Accessible.onPressAction: {
-        if (root.enabled && root.visible)
-            root.clicked();
-    }
 
     FontMetrics {
         id: metrics
@@ -30,19 +24,7 @@ T.AbstractButton {
         Symbol {
             anchors.centerIn: parent
             name: root.symbol
+            color: root.ink
         }
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: {
-            if (root.down)
-                return Theme.buttonPressed;
-            if (root.hovered)
-                return Theme.buttonHovered;
-            return root.flat ? "transparent" : Theme.button;
-        }
-        border.width: root.visualFocus ? Theme.focusWidth : root.flat ? 0 : 1
-        border.color: root.visualFocus ? Theme.focusRing : Theme.border
     }
 }

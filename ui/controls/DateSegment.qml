@@ -2,14 +2,12 @@ import QtQuick
 import Tavlo
 
 // One part of a date, its day say, that takes keys of its own: digits replace its number, Up and
-// Down step it. It is drawn between the texts that separate it from its neighbours.
+// Down step it, and so does the wheel once it has the keyboard. It is drawn between the texts that separate it from its neighbours.
 Item {
     id: root
 
     required property DatePart modelData
 
-    // The form's direction. The parts themselves stand as the date's locale has them.
-    property bool mirrored: false
     // What assistive tools read and set.
     property int value: -1
     readonly property int minimumValue: root.modelData.minimum
@@ -17,6 +15,13 @@ Item {
     readonly property int stepSize: 1
 
     readonly property PostDate date: root.modelData.owner
+    // The width with the widest number.
+    readonly property int widestWidth: {
+        let widest = number.width;
+        for (const sample of root.modelData.samples)
+            widest = Math.max(widest, root.widthOf(sample));
+        return leftText.width + widest + 2 * pill.inset + rightText.width;
+    }
 
     function name(): string {
         switch (root.modelData.kind) {
@@ -41,15 +46,8 @@ Item {
             part.askFocus();
     }
 
-    function goBeside(places: int): void {
-        root.go(root.date.partBeside(root.modelData, places, root.mirrored));
-    }
-
-    function widest(): real {
-        let width = number.implicitWidth;
-        for (const sample of root.modelData.samples)
-            width = Math.max(width, metrics.advanceWidth(sample));
-        return width;
+    function widthOf(text: string): int {
+        return Math.ceil(metrics.advanceWidth(text));
     }
 
     function type(character: string): bool {
@@ -77,18 +75,6 @@ Item {
         case Qt.Key_Down:
             root.modelData.step(-1);
             return true;
-        case Qt.Key_Left:
-            root.goBeside(-1);
-            return true;
-        case Qt.Key_Right:
-            root.goBeside(1);
-            return true;
-        case Qt.Key_Home:
-            root.go(root.date.firstDayPart);
-            return true;
-        case Qt.Key_End:
-            root.go(root.date.lastPart);
-            return true;
         case Qt.Key_Backspace:
         case Qt.Key_Delete:
             root.erase();
@@ -105,7 +91,7 @@ Item {
 
     Accessible.role: Accessible.SpinBox
     Accessible.name: root.name()
-    Accessible.description: root.modelData.word
+    Accessible.description: root.modelData.value < 0 ? qsTr("Empty") : root.modelData.word
     Accessible.focusable: true
     Accessible.focused: root.activeFocus
     Accessible.onIncreaseAction: root.modelData.step(1)
@@ -154,6 +140,12 @@ Item {
         }
     }
 
+    WheelSteps {
+        enabled: root.activeFocus
+        onStepped: by => root.modelData.step(by)
+    }
+
+    // All widths are whole, so that every part and separator begins at a pixel.
     Row {
         id: row
 
@@ -162,7 +154,10 @@ Item {
         LayoutMirroring.childrenInherit: true
 
         Text {
+            id: leftText
+
             anchors.verticalCenter: pill.verticalCenter
+            width: Math.ceil(implicitWidth)
             text: root.modelData.left
             textFormat: Text.PlainText
             font.pixelSize: Theme.bodySize
@@ -173,7 +168,9 @@ Item {
         Rectangle {
             id: pill
 
-            implicitWidth: Math.ceil(root.widest()) + metrics.height * 0.36
+            readonly property int inset: Math.round(metrics.height * 0.15)
+
+            implicitWidth: number.width + 2 * pill.inset
             implicitHeight: Math.ceil(metrics.height) + 4
             radius: Theme.controlRadius / 2
             color: root.activeFocus ? Theme.accent : "transparent"
@@ -182,6 +179,7 @@ Item {
                 id: number
 
                 anchors.centerIn: parent
+                width: root.widthOf(root.modelData.text)
                 text: root.modelData.text
                 textFormat: Text.PlainText
                 font.pixelSize: Theme.bodySize
@@ -191,7 +189,10 @@ Item {
         }
 
         Text {
+            id: rightText
+
             anchors.verticalCenter: pill.verticalCenter
+            width: Math.ceil(implicitWidth)
             text: root.modelData.right
             textFormat: Text.PlainText
             font.pixelSize: Theme.bodySize

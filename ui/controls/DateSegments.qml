@@ -1,23 +1,35 @@
 import QtQuick
 import Tavlo
 
-// The parts of a day, or of a time of day, in one frame.
+// The parts of a day, or of a time of day, in one frame. Each part is as wide as its number; the
+// frame has room for the widest ones, so that it stays as it is while numbers change.
 FieldGround {
     id: root
 
     // The parts as they stand on screen from left to right.
     required property var parts
-    // Whether the form is mirrored.
-    required property bool mirrored
     // Whether the first part has the focus where the form gives it to the field as a whole.
     property bool isEntry: false
 
-    implicitWidth: row.implicitWidth + 2 * Theme.controlPadding
-    implicitHeight: row.implicitHeight - 4 + 2 * Theme.controlPadding
-    ringed: segments.activeFocus
+    readonly property int widestWidth: {
+        let width = 0;
+        for (let i = 0; i < segments.count; ++i)
+            width += (segments.itemAt(i) as DateSegment).widestWidth;
+        return width;
+    }
+
+    implicitWidth: root.widestWidth + 2 * Theme.controlPadding
+    implicitHeight: Math.ceil(metrics.height) + 2 * Theme.controlPadding
+    ringed: scope.activeFocus
+
+    FontMetrics {
+        id: metrics
+
+        font.pixelSize: Theme.bodySize
+    }
 
     FocusScope {
-        id: segments
+        id: scope
 
         anchors.fill: parent
         focus: root.isEntry
@@ -25,16 +37,18 @@ FieldGround {
         Row {
             id: row
 
-            anchors.centerIn: parent
+            anchors.verticalCenter: parent.verticalCenter
+            x: root.LayoutMirroring.enabled ? root.width - row.width - Theme.controlPadding : Theme.controlPadding
             layoutDirection: Qt.LeftToRight
             LayoutMirroring.enabled: false
             LayoutMirroring.childrenInherit: true
 
             Repeater {
+                id: segments
+
                 model: root.parts
                 delegate: DateSegment {
                 }
-                onItemAdded: (index, item) => (item as DateSegment).mirrored = Qt.binding(() => root.mirrored)
             }
         }
     }

@@ -14,15 +14,16 @@ Item {
     DateStepperHalf {
         anchors.top: parent.top
         width: root.width
-        height: root.height / 2
+        height: Math.floor(root.height / 2)
+        symbol: "chevron.up"
         onClicked: root.stepped(1)
     }
 
     DateStepperHalf {
         anchors.bottom: parent.bottom
         width: root.width
-        height: root.height / 2
-        rotation: 180
+        height: Math.floor(root.height / 2)
+        symbol: "chevron.down"
         onClicked: root.stepped(-1)
     }
 }

@@ -2,9 +2,11 @@ import QtQuick
 import QtQuick.Templates as T
 import Tavlo
 
-// The upper half of a stepper; the lower one is this turned about.
+// One of the two buttons of a stepper.
 T.AbstractButton {
     id: root
+
+    required property string symbol
 
     focusPolicy: Qt.NoFocus
     autoRepeat: true
@@ -13,10 +15,9 @@ T.AbstractButton {
     contentItem: Item {
         Symbol {
             anchors.centerIn: parent
-            anchors.verticalCenterOffset: root.height * 0.08
-            name: "chevron.left"
+            name: root.symbol
+            // No higher than the half, or the two would overlap.
             size: Math.round(Theme.bodySize * 0.9)
-            rotation: 90
         }
     }
 

@@ -11,23 +11,81 @@ FocusScope {
     // The field's name, for assistive tools.
     required property string label
 
-    readonly property bool popupOpen: month.visible
     readonly property bool mirrored: root.LayoutMirroring.enabled
 
     // The part to which the keyboard returns from the grid of days; null for the button.
     property DatePart opener: null
+    // Whether the button shows then that it has the keyboard.
+    property bool openedByKey: false
 
     function openMonth(opener: DatePart): void {
         root.opener = opener;
+        root.openedByKey = monthButton.visualFocus;
         root.postDate.showMonth();
         month.open();
     }
 
+    function returnFocus(): void {
+        if (root.opener) {
+            root.opener.askFocus();
+            return;
+        }
+        monthButton.forceActiveFocus();
+        // The closing popup may have given the button the focus before, for a reason of its own.
+        monthButton.focusReason = root.openedByKey ? Qt.TabFocusReason : Qt.PopupFocusReason;
+    }
+
+    // Gives the keyboard to another part, if there is one.
+    function go(part: DatePart): void {
+        if (part)
+            part.askFocus();
+    }
+
+    function goBeside(places: int): void {
+        root.go(root.postDate.partBeside(root.postDate.currentPart, places, root.mirrored));
+    }
+
+    function move(event: KeyEvent): bool {
+        if (!root.postDate.currentPart || event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
+            return false;
+        switch (event.key) {
+        case Qt.Key_Left:
+            root.goBeside(-1);
+            return true;
+        case Qt.Key_Right:
+            root.goBeside(1);
+            return true;
+        case Qt.Key_Home:
+            root.go(root.postDate.firstDayPart);
+            return true;
+        case Qt.Key_End:
+            root.go(root.postDate.lastPart);
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    // The editing commands, which are for the date as a whole. (qmllint does not know StandardKey.)
+    // qmllint disable unqualified
+    function edit(event: KeyEvent): bool {
+        if (event.matches(StandardKey.Copy))
+            root.postDate.copy();
+        else if (event.matches(StandardKey.Paste))
+            root.postDate.paste();
+        else if (event.matches(StandardKey.Undo))
+            root.postDate.undo();
+        else
+            return false;
+        return true;
+    }
+
+    // qmllint enable unqualified
     function press(event: KeyEvent): bool {
         const isAsked = event.key === Qt.Key_F4 || (event.key === Qt.Key_Down && event.modifiers & Qt.AltModifier);
         if (isAsked)
             root.openMonth(root.postDate.currentPart);
-        return isAsked;
+        return isAsked || root.move(event) || root.edit(event);
     }
 
     implicitWidth: dayAndButton.implicitWidth + flow.spacing + timeAndStepper.implicitWidth
@@ -62,7 +120,6 @@ FocusScope {
                 objectName: "dayParts"
                 parts: root.postDate.dayParts
                 isEntry: true
-                mirrored: root.mirrored
             }
 
             DateIconButton {
@@ -72,7 +129,7 @@ FocusScope {
                 symbol: "calendar"
                 name: qsTr("Choose Day")
                 onClicked: {
-                    if (month.opened)
+                    if (month.visible)
                         month.close();
                     else
                         root.openMonth(null);
@@ -84,12 +141,7 @@ FocusScope {
                     objectName: "monthPopup"
                     postDate: root.postDate
                     rightToLeft: root.mirrored
-                    onClosed: {
-                        if (root.opener)
-                            root.opener.askFocus();
-                        else
-                            monthButton.forceActiveFocus(Qt.PopupFocusReason);
-                    }
+                    onDone: root.returnFocus()
                 }
             }
         }
@@ -102,7 +154,6 @@ FocusScope {
 
                 objectName: "timeParts"
                 parts: root.postDate.timeParts
-                mirrored: root.mirrored
             }
 
             DateStepper {
@@ -111,6 +162,12 @@ FocusScope {
                 onStepped: by => {
                     root.postDate.currentTimePart.askFocus();
                     root.postDate.currentTimePart.step(by);
+                }
+
+                // Elsewhere the wheel scrolls the form.
+                WheelSteps {
+                    enabled: time.ringed
+                    onStepped: by => root.postDate.currentTimePart.step(by)
                 }
             }
         }

@@ -28,7 +28,10 @@ Item {
     Accessible.focused: root.activeFocus
     Accessible.selectable: true
     Accessible.selected: root.selected
-    Accessible.onPressAction: root.chosen(root.index)
+    Accessible.onPressAction: {
+        if (root.enabled && root.visible)
+            root.chosen(root.index);
+    }
 
     HoverHandler {
         id: hover
@@ -51,13 +54,10 @@ Item {
         border.color: Theme.border
     }
 
-    Rectangle {
-        anchors.fill: parent
-        radius: height / 2
+    FocusRing {
         visible: root.activeFocus
-        color: "transparent"
-        border.width: Theme.focusWidth
-        border.color: Theme.focusRing
+        innerRadius: root.height / 2
+        gap: -Theme.focusWidth
     }
 
     Text {

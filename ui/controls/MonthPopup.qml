@@ -4,17 +4,26 @@ import Tavlo
 
 // A month of days over the form, to pick one from. Return, Space or a click takes a day; Escape
 // leaves the date as it is, and is this popup's alone. Other shortcuts of the form go on working.
+// It goes at once: keys that are pressed right after are the form's.
 T.Popup {
     id: root
 
     required property PostDate postDate
     required property bool rightToLeft
 
+    // The user has taken a day, or wants none; the keyboard is to go back where it was.
+    signal done
+
     function takeDay(): void {
         if (!root.opened)
             return;
         root.postDate.takeDay();
+        root.finish();
+    }
+
+    function finish(): void {
         root.close();
+        root.done();
     }
 
     // Beneath the button, or above it where there is room only there.
@@ -42,33 +51,13 @@ T.Popup {
         days: root.postDate.month
         mirrored: root.rightToLeft
         onTaken: root.takeDay()
-        onDismissed: root.close()
+        onDismissed: root.finish()
     }
 
-    background: Rectangle {
-        color: Theme.menu
-        radius: Theme.menuRadius
-        border.color: Theme.separator
-
-        SoftShadow {
-            z: -1
-        }
+    background: FloatingGround {
     }
 
-    enter: Transition {
-        NumberAnimation {
-            property: "opacity"
-            from: 0
-            to: 1
-            duration: Theme.shortDuration
-        }
-    }
-
-    exit: Transition {
-        NumberAnimation {
-            property: "opacity"
-            to: 0
-            duration: Theme.shortDuration
-        }
+    enter: FadeIn {
+        duration: Theme.shortDuration
     }
 }

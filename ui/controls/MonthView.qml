@@ -2,7 +2,8 @@ import QtQuick
 import Tavlo
 
 // The days of a month, and two buttons to other months. The arrow keys go by days and weeks, Page
-// Up and Page Down by months, with Shift or Ctrl by years, Home and End to the ends of the week.
+// Up and Page Down by months, with Shift or Ctrl by years, Home and End to the ends of the week. The
+// wheel goes by months.
 FocusScope {
     id: root
 
@@ -73,12 +74,16 @@ FocusScope {
     implicitHeight: column.implicitHeight
     LayoutMirroring.enabled: root.mirrored
     LayoutMirroring.childrenInherit: true
-    Accessible.role: Accessible.Dialog
+    Accessible.role: Accessible.Grouping
     Accessible.name: root.days.title
 
     // Escape is taken before any shortcut of the form hears of it.
     Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
     Keys.onEscapePressed: root.dismissed()
+
+    WheelSteps {
+        onStepped: by => root.days.moveByMonths(-by)
+    }
 
     Column {
         id: column
@@ -127,20 +132,18 @@ FocusScope {
             }
         }
 
-        Row {
-            Repeater {
-                model: root.days.weekdays
-                delegate: WeekdayName {
-                }
-                onItemAdded: (index, item) => item.width = Qt.binding(() => grid.width / 7)
-            }
-        }
-
         Grid {
             id: grid
 
             columns: 7
+            horizontalItemAlignment: Grid.AlignHCenter
             Keys.onPressed: event => event.accepted = root.press(event)
+
+            Repeater {
+                model: root.days.weekdays
+                delegate: WeekdayName {
+                }
+            }
 
             Repeater {
                 id: cells
@@ -148,6 +151,7 @@ FocusScope {
                 model: root.days
                 delegate: MonthDay {
                 }
+                // The delegate is a file of its own, which cannot see this one.
                 onItemAdded: (index, item) => (item as MonthDay).chosen.connect(root.takeRow)
             }
         }

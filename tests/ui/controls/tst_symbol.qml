@@ -5,7 +5,7 @@ import Tavlo
 Item {
     id: root
 
-    readonly property var names: ["calendar", "chevron.left", "chevron.right", "doc.plaintext", "gearshape", "plus", "square.and.arrow.down"]
+    readonly property var names: ["calendar", "chevron.down", "chevron.left", "chevron.right", "chevron.up", "doc.plaintext", "gearshape", "plus", "square.and.arrow.down"]
 
     width: 200
     height: 200

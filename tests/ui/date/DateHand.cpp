@@ -3,6 +3,7 @@
 #include "tests/ui/date/Dates.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QFont>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -38,6 +39,16 @@ void DateHand::type(QWindow *window, const QString &text) const
             QGuiApplication::sendEvent(window, &event);
         }
     }
+}
+
+QString DateHand::clipboard() const
+{
+    return QGuiApplication::clipboard()->text();
+}
+
+void DateHand::setClipboard(const QString &text) const
+{
+    QGuiApplication::clipboard()->setText(text);
 }
 
 void DateHand::setTextSize(int pixels) const

@@ -13,6 +13,7 @@ class DateHand : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
+    Q_PROPERTY(QString clipboard READ clipboard WRITE setClipboard)
 
 public:
     using QObject::QObject;
@@ -27,6 +28,9 @@ public:
 
     /// Types characters that are on no key of an English keyboard.
     Q_INVOKABLE void type(QWindow *window, const QString &text) const;
+
+    QString clipboard() const;
+    void setClipboard(const QString &text) const;
 
     /// Gives the program another text size.
     Q_INVOKABLE void setTextSize(int pixels) const;

@@ -309,6 +309,103 @@ Item {
             compare(DateHand.shown(test.date), "15 02 2026 10 29");
         }
 
+        function turnWheel(item: Item, angle: int): void {
+            mouseWheel(item, item.width / 2, item.height / 2, 0, angle);
+        }
+
+        function test_theWheelStepsThePartThatHasTheKeyboard(): void {
+            test.openGerman();
+            test.turnWheel(test.part("day"), 120);
+            compare(DateHand.shown(test.date), "15 02 2026 09 30");
+            test.enter("day");
+            test.turnWheel(test.part("day"), 120);
+            test.turnWheel(test.part("month"), 120);
+            compare(DateHand.shown(test.date), "16 02 2026 09 30");
+            for (let i = 0; i < 4; ++i)
+                test.turnWheel(test.part("day"), -60);
+            compare(DateHand.shown(test.date), "14 02 2026 09 30");
+        }
+
+        function test_theWheelOverTheStepperStepsTheTimeThatHasTheKeyboard(): void {
+            test.openGerman();
+            const stepper = findChild(test.field, "timeStepper");
+            test.turnWheel(stepper, 120);
+            compare(DateHand.shown(test.date), "15 02 2026 09 30");
+            test.enter("minute");
+            test.turnWheel(stepper, -120);
+            compare(DateHand.shown(test.date), "15 02 2026 09 29");
+        }
+
+        function test_copyAndPasteAreForTheWholeDate(): void {
+            test.openGerman();
+            test.enter("month");
+            keySequence(StandardKey.Copy);
+            compare(DateHand.clipboard, "2026-02-15 09:30");
+            DateHand.clipboard = "1999-07-04 23:59";
+            keySequence(StandardKey.Paste);
+            compare(DateHand.secondsOf(test.date), DateHand.utc(1999, 7, 4, 21, 59, 17.25));
+            compare(DateHand.shown(test.date), "04 07 1999 23 59");
+            compare(test.focusedName(), "monthPart");
+            DateHand.clipboard = "tomorrow";
+            keySequence(StandardKey.Paste);
+            compare(DateHand.shown(test.date), "04 07 1999 23 59");
+            keySequence(StandardKey.Undo);
+            compare(DateHand.secondsOf(test.date), DateHand.utc(2026, 2, 15, 8, 30, 17.25));
+            compare(DateHand.shown(test.date), "15 02 2026 09 30");
+        }
+
+        function test_withoutADayTheClipboardKeepsWhatItHas(): void {
+            test.open("de_DE", "UTC", 1e300);
+            DateHand.clipboard = "kept";
+            test.enter("day");
+            keySequence(StandardKey.Copy);
+            compare(DateHand.clipboard, "kept");
+        }
+
+        // The texts of a frame's parts from left to right, with the blank before each.
+        function texts(frame: string): var {
+            const found = [];
+            const look = item => {
+                if (item.text !== undefined && item.text !== "" && item.visible)
+                    found.push(item.mapToItem(root, 0, 0, item.width, item.height));
+                for (let i = 0; i < item.children.length; ++i)
+                    look(item.children[i]);
+            };
+            look(findChild(test.field, frame));
+            return found.sort((a, b) => a.x - b.x);
+        }
+
+        function test_partsStandEvenly_data(): var {
+            return ["en_GB", "en_US", "de_DE", "ar_EG", "ja_JP"].map(locale => ({
+                            "tag": locale
+                        }));
+        }
+
+        function test_partsStandEvenly(data: var): void {
+            test.open(data.tag, "UTC", DateHand.utc(2026, 5, 24, 14, 30, 0));
+            waitForRendering(test.field);
+            const places = test.texts("dayParts");
+            verify(places.length >= 5);
+            // Between a number and what separates it from the next, the same on both sides.
+            const gaps = [];
+            for (let i = 1; i < 5; ++i)
+                gaps.push(places[i].x - Math.ceil(places[i - 1].right));
+            for (const gap of gaps)
+                fuzzyCompare(gap, gaps[0], 0.5, gaps.join(" "));
+            for (const place of places)
+                compare(place.x, Math.round(place.x));
+        }
+
+        function test_theFrameStaysAsItIsWhileNumbersChange(): void {
+            test.openAmerican();
+            const frame = findChild(test.field, "dayParts");
+            const width = frame.width;
+            for (const seconds of [DateHand.utc(2026, 12, 30, 0, 0, 0), DateHand.utc(1111, 1, 1, 0, 0, 0), 1e300]) {
+                test.date.date = DateHand.postDate("en_US", "UTC", seconds).date;
+                compare(frame.width, width);
+            }
+        }
+
         function test_aDateThatNoCalendarReaches(): void {
             for (const seconds of [1e300, NaN, -Infinity]) {
                 test.open("de_DE", "UTC", seconds);
@@ -335,6 +432,14 @@ Item {
             verify(test.field.implicitWidth <= 620);
             DateHand.setTextSize(13);
             tryVerify(() => Theme.bodySize === 13);
+        }
+
+        function test_assistiveToolsReadThatAPartIsEmpty(): void {
+            test.open("de_DE", "UTC", 1e300);
+            compare(DateHand.accessible(test.part("day")).description, "Empty");
+            compare(DateHand.accessible(test.part("month")).description, "Empty");
+            DateHand.setValue(test.part("month"), 3);
+            compare(DateHand.accessible(test.part("month")).description, "März");
         }
 
         function test_assistiveToolsReadAndSetTheParts(): void {
