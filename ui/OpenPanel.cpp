@@ -1,8 +1,5 @@
 #include "ui/OpenPanel.h"
 
-#include "model/UserDirectories.h"
-
-#include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QMimeDatabase>
@@ -46,9 +43,6 @@ IconsByName *iconsByName()
 
 void OpenPanel::importInto(BlogViewModel *store)
 {
-    if (m_folder.isEmpty())
-        m_folder = documentsDirectory();
-
     auto *panel = new QFileDialog;
     panel->setAttribute(Qt::WA_DeleteOnClose);
     // The program ends with its window; the panels go with it.
@@ -56,12 +50,9 @@ void OpenPanel::importInto(BlogViewModel *store)
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setNameFilter(tr("RSS feeds") + QStringLiteral(" (*.rss *.xml)"));
     panel->setIconProvider(iconsByName());
-    panel->setDirectory(m_folder);
 
     connect(
         panel, &QFileDialog::fileSelected, this,
         [store = store->shared_from_this()](const QString &path) { store->importRSSFeed(path); });
-    connect(panel, &QFileDialog::finished, this,
-            [this, panel] { m_folder = panel->directory().path(); });
     panel->show();
 }
