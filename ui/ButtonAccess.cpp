@@ -24,14 +24,14 @@ public:
     ButtonAccess(QQuickItem *button, QObject *accessible)
         : QAccessibleObject(button)
         , m_accessible(accessible)
+        , m_enabledChanges(QObject::connect(button, &QQuickItem::enabledChanged, accessible,
+                                            [button] { tellDisabledChanged(button); }))
     {
-        QObject::connect(button, &QQuickItem::enabledChanged, accessible, [button] {
-            QAccessible::State changed;
-            changed.disabled = true;
-            QAccessibleStateChangeEvent event(button, changed);
-            QAccessible::updateAccessibility(&event);
-        });
     }
+
+    /// A button may have another interface after this one.
+    ~ButtonAccess() override { QObject::disconnect(m_enabledChanges); }
+    Q_DISABLE_COPY_MOVE(ButtonAccess)
 
     QAccessibleInterface *parent() const override
     {
@@ -106,10 +106,19 @@ public:
     }
 
 private:
+    static void tellDisabledChanged(QQuickItem *button)
+    {
+        QAccessible::State changed;
+        changed.disabled = true;
+        QAccessibleStateChangeEvent event(button, changed);
+        QAccessible::updateAccessibility(&event);
+    }
+
     QQuickItem *button() const { return static_cast<QQuickItem *>(object()); }
 
     /// Owned by the button, and gone with it; so is this interface.
     QObject *m_accessible;
+    QMetaObject::Connection m_enabledChanges;
 };
 
 QAccessibleInterface *makeButtonAccess(const QString &, QObject *object)

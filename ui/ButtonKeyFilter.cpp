@@ -1,12 +1,6 @@
 #include "ui/ButtonKeyFilter.h"
 
-#include "ui/ButtonAccess.h"
-
-#include <QCoreApplication>
 #include <QKeyEvent>
-
-// Wherever there are buttons, assistive tools see them whole.
-Q_COREAPP_STARTUP_FUNCTION(installButtonAccess)
 
 void ButtonKeyFilter::setButton(QQuickItem *button)
 {

@@ -1,3 +1,4 @@
+#include "ui/ButtonAccess.h"
 #include "ui/Translations.h"
 
 #include <QApplication>
@@ -32,6 +33,7 @@ int main(int argc, char **argv)
     QApplication::setWindowIcon(
         QIcon(QStringLiteral(":/qt-project.org/imports/Tavlo/rss-logo.svg")));
     installTranslations();
+    installButtonAccess();
     QApplication::setLayoutDirection(directionOfMessages());
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 

@@ -1,5 +1,7 @@
 // The program around a Qt Quick test. Any warning, whenever it comes, fails the run.
 
+#include "ui/ButtonAccess.h"
+
 #include <QApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -62,6 +64,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tavlo"));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
+    installButtonAccess();
 
     QuickTestSetup setup;
     const int failures =
