@@ -3,7 +3,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <bit>
 #include <vector>
 
 namespace {
@@ -14,10 +13,7 @@ bool identical(const BlogPost &left, const BlogPost &right)
     const auto sameText = [](const QString &one, const QString &other) {
         return one.size() == other.size() && (one.constData() == other.constData() || one == other);
     };
-    const auto bits = [](Date date) {
-        return std::bit_cast<quint64>(date.secondsSinceReferenceDate());
-    };
-    return left.id == right.id && bits(left.date) == bits(right.date)
+    return left.id == right.id && left.date.bits() == right.date.bits()
         && sameText(left.title, right.title) && sameText(left.content, right.content)
         && sameText(left.description, right.description)
         && sameText(left.permalink, right.permalink);

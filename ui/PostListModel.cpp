@@ -108,29 +108,23 @@ void PostListModel::applySteps()
         }
     }
     m_boundary = 0;
-    const qsizetype oldCount = m_before.size();
+    const bool wasEmpty = m_before.isEmpty();
     m_before.clear();
-    announceCount(oldCount);
+    if (wasEmpty != isEmpty())
+        emit emptyChanged();
     const bool oneInserted = steps.size() == 1 && m_newRows.size() == 1 && steps.first().count == 1;
     emit changed(oneInserted ? static_cast<int>(steps.first().first) : -1, stayed == 0);
 }
 
 void PostListModel::reset()
 {
-    const qsizetype oldCount = m_posts.size();
+    const bool wasEmpty = isEmpty();
     beginResetModel();
     m_posts = m_viewModel ? m_viewModel->posts() : BlogPosts();
     m_rowCount = m_posts.size();
     m_newRows.clear();
     endResetModel();
-    announceCount(oldCount);
-}
-
-void PostListModel::announceCount(qsizetype oldCount)
-{
-    if (oldCount != m_posts.size())
-        emit countChanged();
-    if ((oldCount == 0) != m_posts.isEmpty())
+    if (wasEmpty != isEmpty())
         emit emptyChanged();
 }
 

@@ -14,7 +14,6 @@ class PostListModel : public QAbstractListModel
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(BlogViewModel *viewModel READ viewModel WRITE setViewModel NOTIFY viewModelChanged)
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(bool empty READ isEmpty NOTIFY emptyChanged)
 
 public:
@@ -33,8 +32,7 @@ public:
     /// Shows another store's posts. Nothing of this is a row change.
     void setViewModel(BlogViewModel *viewModel);
 
-    /// How many rows the last finished change left.
-    int count() const { return static_cast<int>(m_posts.size()); }
+    /// Whether the last finished change left no rows.
     bool isEmpty() const { return m_posts.isEmpty(); }
 
     /// Whether the last change put this row in.
@@ -46,7 +44,6 @@ public:
 
 signals:
     void viewModelChanged();
-    void countChanged();
     void emptyChanged();
 
     /// Sent before the rows change, unless they are replaced by another store's.
@@ -60,7 +57,6 @@ private:
     void follow();
     void applySteps();
     void reset();
-    void announceCount(qsizetype oldCount);
 
     const BlogPost &postAt(qsizetype row) const;
 
