@@ -40,6 +40,8 @@ class PostDate : public QObject
     Q_PROPERTY(DatePart *currentTimePart READ currentTimePart NOTIFY currentPartChanged)
     /// Whether the parts show something else than the date that is held.
     Q_PROPERTY(bool unsettled READ isUnsettled NOTIFY partsChanged)
+    /// Whether the date that is held is another one than was set.
+    Q_PROPERTY(bool changed READ isChanged NOTIFY partsChanged)
     /// The day of the date that is held, in words; empty where it has none.
     Q_PROPERTY(QString dayInWords READ dayInWords NOTIFY partsChanged)
     /// The days to pick from.
@@ -60,6 +62,7 @@ public:
     DatePart *currentPart() const { return m_currentPart; }
     DatePart *currentTimePart() const { return m_currentTimePart; }
     bool isUnsettled() const { return m_draft != heldNumbers(); }
+    bool isChanged() const { return m_date.bits() != m_start.bits(); }
     QString dayInWords() const;
     MonthDays *month() const { return m_month; }
 

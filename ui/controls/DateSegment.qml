@@ -133,6 +133,7 @@ Item {
     }
 
     TapHandler {
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
         gesturePolicy: TapHandler.DragThreshold
         onPressedChanged: {
             if (pressed)

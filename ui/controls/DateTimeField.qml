@@ -81,11 +81,29 @@ FocusScope {
     }
 
     // qmllint enable unqualified
-    function press(event: KeyEvent): bool {
-        const isAsked = event.key === Qt.Key_F4 || (event.key === Qt.Key_Down && event.modifiers & Qt.AltModifier);
-        if (isAsked)
+    // Opens the menu of editing commands, which is made when it is first asked for.
+    function openMenu(item: Item, x: real, y: real, byKey: bool): void {
+        if (menu.item === null) {
+            menu.setSource("DateMenu.qml", {
+                    "postDate": root.postDate
+                });
+        }
+        (menu.item as DateMenu).openAt(item, x, y, byKey);
+    }
+
+    function open(event: KeyEvent): bool {
+        const isForMonth = event.key === Qt.Key_F4 || (event.key === Qt.Key_Down && event.modifiers & Qt.AltModifier);
+        const isForMenu = event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier);
+        const focused = root.Window.activeFocusItem;
+        if (isForMonth)
             root.openMonth(root.postDate.currentPart);
-        return isAsked || root.move(event) || root.edit(event);
+        else if (isForMenu)
+            root.openMenu(focused, 0, focused.height, true);
+        return isForMonth || isForMenu;
+    }
+
+    function press(event: KeyEvent): bool {
+        return root.open(event) || root.move(event) || root.edit(event);
     }
 
     implicitWidth: dayAndButton.implicitWidth + flow.spacing + timeAndStepper.implicitWidth
@@ -103,6 +121,18 @@ FocusScope {
     onEnabledChanged: {
         if (!root.enabled)
             month.close();
+    }
+
+    Loader {
+        id: menu
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onPressedChanged: {
+            if (pressed)
+                root.openMenu(root, point.position.x, point.position.y, false);
+        }
     }
 
     Flow {

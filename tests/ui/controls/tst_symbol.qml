@@ -71,6 +71,23 @@ Item {
             verify(test.strongest("blue") > 247);
         }
 
+        // Three to one on white, the least that a control's mark is to have.
+        function test_smallChevrons_areStrong_data(): var {
+            return root.names.filter(name => name.startsWith("chevron")).map(name => ({
+                            "tag": name
+                        }));
+        }
+
+        function test_smallChevrons_areStrong(data: var): void {
+            const symbol = createTemporaryObject(symbolComponent, ground, {
+                    "name": data.tag,
+                    "size": 12,
+                    "color": "#1c1c1f"
+                });
+            waitForRendering(symbol);
+            verify(test.strongest("green") < 0x94);
+        }
+
         function test_theLogo_isThere(): void {
             compare(logo.status, Image.Ready);
             compare(logo.paintedWidth, logo.paintedHeight);

@@ -405,6 +405,18 @@ TEST_F(PostDateTest, undo_givesBackTheBitsThatWereSet)
     }
 }
 
+TEST_F(PostDateTest, isChanged_whileItIsAnotherDateThanWasSet)
+{
+    EXPECT_FALSE(date.isChanged());
+    step(DatePart::Minute, 1);
+    EXPECT_TRUE(date.isChanged());
+    step(DatePart::Minute, -1);
+    EXPECT_FALSE(date.isChanged());
+    step(DatePart::Minute, 1);
+    date.setDate(date.date());
+    EXPECT_FALSE(date.isChanged());
+}
+
 TEST_F(PostDateTest, tellsOfChangesOfTheDateOnly)
 {
     QSignalSpy changes(&date, &PostDate::dateChanged);

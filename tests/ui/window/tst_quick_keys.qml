@@ -70,5 +70,16 @@ WindowCase {
         compare(root.view.showingEditor, false);
     }
 
+    function test_theDatesMenuGivesThePartThatWasClickedTheKeyboard(): void {
+        openSheet("editorSheet");
+        const part = control("editorSheet", "minutePart");
+        mouseClick(part, part.width / 2, part.height / 2, Qt.RightButton);
+        tryCompare(findChild(form("editorSheet"), "dateMenu"), "opened", true);
+        keyClick(Qt.Key_Escape);
+        verify(part.activeFocus);
+        keyClick(Qt.Key_Escape);
+        compare(root.view.showingEditor, false);
+    }
+
     name: "QuickKeys"
 }
