@@ -19,6 +19,14 @@ AppMenu {
         root.openAt(root.field, x, y, false);
     }
 
+    // Opens the menu for a long press, which has nothing but a word to select before.
+    function openAtFinger(x: real, y: real): void {
+        root.field.forceActiveFocus(Qt.MouseFocusReason);
+        root.field.cursorPosition = root.field.positionAt(x, y);
+        root.field.selectWord();
+        root.openAt(root.field, x, y, false);
+    }
+
     // Opens the menu for the menu key, below the cursor.
     function openAtCursor(): void {
         const cursor = root.field.cursorRectangle;
@@ -32,6 +40,13 @@ AppMenu {
         text: qsTr("Undo")
         enabled: root.field.canUndo
         onTriggered: root.field.undo()
+    }
+
+    AppMenuItem {
+        objectName: "redoItem"
+        text: qsTr("Redo")
+        enabled: root.field.canRedo
+        onTriggered: root.field.redo()
     }
 
     AppMenuSeparator {

@@ -81,6 +81,10 @@ FocusScope {
             Keys.onTabPressed: event => root.leave(!(event.modifiers & Qt.ShiftModifier))
             Keys.onBacktabPressed: root.leave(false)
             Keys.onPressed: event => {
+                if (Composition.endByKey(event.key)) {
+                    event.accepted = true;
+                    return;
+                }
                 const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
                 if (enter && event.modifiers & Qt.ShiftModifier && !(event.modifiers & Qt.ControlModifier)) {
                     // The toolkit would put a line separator here, which no feed reader expects.
@@ -89,6 +93,11 @@ FocusScope {
                 } else {
                     opener.takeKey(event);
                 }
+            }
+
+            onActiveFocusChanged: {
+                if (!area.activeFocus)
+                    Composition.commitIn(area);
             }
 
             EditMenuOpener {

@@ -9,6 +9,11 @@ T.TextField {
     // What the field is for. The form draws it; here it is the name for assistive tools.
     property string label: ""
 
+    // Whether the placeholder stands in the place of a text.
+    readonly property bool hinting: root.length === 0 && root.preeditText === ""
+    readonly property bool inUse: root.activeFocus || opener.opened
+    readonly property bool runsFromRight: root.effectiveHorizontalAlignment === TextInput.AlignRight
+
     // While the text scrolls: it moves the cursor's rectangle, which would scroll it again.
     property bool scrolling: false
 
@@ -22,7 +27,7 @@ T.TextField {
     }
 
     implicitWidth: Math.max(placeholder.implicitWidth, 12 * Theme.bodySize) + leftPadding + rightPadding
-    implicitHeight: Math.max(contentHeight, placeholder.implicitHeight) + topPadding + bottomPadding
+    implicitHeight: Math.max(contentHeight, root.hinting ? placeholder.implicitHeight : 0) + topPadding + bottomPadding
     padding: Theme.controlPadding
     leftPadding: Theme.controlPadding + 3
     rightPadding: Theme.controlPadding + 3
@@ -38,13 +43,19 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: root.label
     Accessible.description: root.placeholderText
-    Keys.onPressed: event => opener.takeKey(event)
+    Keys.onPressed: event => {
+        event.accepted = Composition.endByKey(event.key);
+        if (!event.accepted)
+            opener.takeKey(event);
+    }
 
     onActiveFocusChanged: {
-        if (root.activeFocus)
+        if (root.activeFocus) {
             root.ensureVisible(root.cursorPosition);
-        else
+        } else {
+            Composition.commitIn(root);
             root.showStart();
+        }
     }
     onCursorRectangleChanged: root.showStart()
 
@@ -63,7 +74,7 @@ T.TextField {
         y: root.topPadding
         width: root.width - root.leftPadding - root.rightPadding
         height: root.height - root.topPadding - root.bottomPadding
-        visible: root.length === 0 && root.preeditText === ""
+        visible: root.hinting
         text: root.placeholderText
         font: root.font
         color: root.placeholderTextColor
@@ -74,8 +85,20 @@ T.TextField {
         Accessible.ignored: true
     }
 
+    // Where a text is cut, it fades out: it can be seen to go on.
+    EdgeFade {
+        objectName: "fade"
+        visible: !root.inUse && root.contentWidth > root.width - root.leftPadding - root.rightPadding
+        x: root.runsFromRight ? root.leftPadding : root.width - root.rightPadding - width
+        y: root.topPadding
+        width: 2 * Theme.bodySize
+        height: root.height - root.topPadding - root.bottomPadding
+        ground: (root.background as FieldGround).color
+        edge: root.runsFromRight ? Qt.LeftEdge : Qt.RightEdge
+    }
+
     background: FieldGround {
-        ringed: root.activeFocus || opener.opened
+        ringed: root.inUse
         dimmed: !root.enabled
     }
 }

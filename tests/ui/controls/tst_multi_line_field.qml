@@ -241,6 +241,28 @@ Item {
             compare(Assistive.clipboard, "some words");
         }
 
+        function test_menu_redoes(): void {
+            keyClick("a");
+            test.area.undo();
+            compare(field.exactText, "");
+            keyClick(Qt.Key_Menu);
+            tryVerify(() => menu() && menu().opened);
+            mouseClick(findChild(menu().contentItem, "redoItem"));
+            tryCompare(menu(), "visible", false);
+            compare(field.exactText, "a");
+        }
+
+        function test_menu_opensByLongPress_onTheWordUnderIt(): void {
+            field.source = "some words";
+            const place = test.area.positionToRectangle(7);
+            const touch = touchEvent(test.area);
+            touch.press(0, test.area, place.x, place.y + 4).commit();
+            wait(Application.styleHints.mousePressAndHoldInterval + 100);
+            touch.release(0, test.area, place.x, place.y + 4).commit();
+            tryVerify(() => menu() && menu().opened);
+            compare(test.area.selectedText, "words");
+        }
+
         function test_outline(): void {
             const outline = findChild(field, "outline");
             compare(outline.radius, 8);

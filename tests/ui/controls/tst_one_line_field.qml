@@ -221,7 +221,7 @@ Item {
         function test_menu_offersWhatIsPossible(): void {
             Assistive.clipboard = "";
             openMenu();
-            for (const name of ["undoItem", "cutItem", "copyItem", "selectAllItem"])
+            for (const name of ["undoItem", "redoItem", "cutItem", "copyItem", "selectAllItem"])
                 verify(!item(name).enabled, name);
             menu().close();
             tryCompare(menu(), "visible", false);
@@ -260,6 +260,56 @@ Item {
             tryCompare(menu(), "visible", false);
             compare(field.text, "");
             verify(field.activeFocus);
+            openMenu();
+            mouseClick(item("redoItem"));
+            tryCompare(menu(), "visible", false);
+            compare(field.text, "words");
+        }
+
+        function test_menu_opensByLongPress_onTheWordUnderIt(): void {
+            field.text = "some words";
+            after.forceActiveFocus();
+            const place = field.positionToRectangle(7);
+            const touch = touchEvent(field);
+            touch.press(0, field, place.x, place.y + 4).commit();
+            wait(Application.styleHints.mousePressAndHoldInterval + 100);
+            touch.release(0, field, place.x, place.y + 4).commit();
+            tryVerify(() => menu() && menu().opened);
+            compare(field.selectedText, "words");
+            mouseClick(item("cutItem"));
+            tryCompare(menu(), "visible", false);
+            compare(field.text, "some ");
+            verify(field.activeFocus);
+        }
+
+        function test_menu_staysAwayFromAFingerThatMoves(): void {
+            field.text = "some words";
+            const touch = touchEvent(field);
+            touch.press(0, field, 20, 15).commit();
+            wait(Application.styleHints.mousePressAndHoldInterval + 100);
+            touch.move(0, field, 120, 15).commit();
+            touch.release(0, field, 120, 15).commit();
+            wait(100);
+            verify(!menu() || !menu().visible);
+        }
+
+        function test_menu_staysAwayFromALongPressOfTheMouse(): void {
+            field.text = "some words";
+            mousePress(field, 20, 15);
+            wait(Application.styleHints.mousePressAndHoldInterval + 100);
+            mouseRelease(field, 20, 15);
+            wait(100);
+            verify(!menu() || !menu().visible);
+        }
+
+        function test_menu_staysAwayFromAShortTouch(): void {
+            field.text = "some words";
+            const touch = touchEvent(field);
+            touch.press(0, field, 20, 15).commit();
+            touch.release(0, field, 20, 15).commit();
+            wait(Application.styleHints.mousePressAndHoldInterval + 100);
+            verify(!menu() || !menu().visible);
+            verify(field.activeFocus);
         }
 
         function test_assistiveTools_seeIt(): void {
@@ -285,6 +335,40 @@ Item {
             verify(placeholder.visible);
             keyClick("a");
             verify(!placeholder.visible);
+        }
+
+        function test_height_isThatOfThePlaceholderWhileItShows(): void {
+            const height = field.implicitHeight;
+            field.width = 60;
+            tryVerify(() => field.implicitHeight > 1.5 * height);
+            keyClick("a");
+            compare(field.implicitHeight, height);
+            field.width = 300;
+        }
+
+        function test_cutText_fadesOut_unlessTheCursorIsInIt_data(): var {
+            return [{
+                    "tag": "from the left",
+                    "text": "many words ",
+                    "right": true
+                }, {
+                    "tag": "from the right",
+                    "text": "שלום עולם ",
+                    "right": false
+                }];
+        }
+
+        function test_cutText_fadesOut_unlessTheCursorIsInIt(data: var): void {
+            const fade = findChild(field, "fade");
+            field.text = data.text;
+            after.forceActiveFocus();
+            verify(!fade.visible);
+            field.text = data.text.repeat(100);
+            verify(fade.visible);
+            compare(fade.x > field.width / 2, data.right);
+            compare(fade.edge, data.right ? Qt.RightEdge : Qt.LeftEdge);
+            field.forceActiveFocus();
+            verify(!fade.visible);
         }
 
         function test_alignment_followsTheText(): void {
