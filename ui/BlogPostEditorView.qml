@@ -4,12 +4,10 @@ import Tavlo
 
 // The form in which a post is written or changed. It edits a draft of its own, made when the form
 // is built; the store hears of it only from save().
-FocusScope {
+SheetForm {
     id: root
 
     required property BlogViewModel viewModel
-    // Whether the owner shows the form. False while it leaves, when it takes no input any more.
-    property bool isPresented: true
     // The store's option of that name. The form holds it, and neither shows nor changes it.
     property bool useDescriptionAsArticle: false
     // The post to edit; undefined to write a new one.
@@ -17,23 +15,17 @@ FocusScope {
 
     readonly property PostDraft draft: PostDraft {
     }
-    readonly property bool canSave: root.isPresented && root.draft.complete
-
-    // The owner is to set its isPresented to false.
-    signal dismissed
+    // A title that an input method still composes counts: save() has it committed.
+    readonly property bool composingTitle: titleField.preeditText !== "" && root.draft.content !== ""
+    readonly property bool canSave: root.isPresented && (root.draft.complete || root.composingTitle)
 
     function save(): void {
         Composition.commit();
         root.takeTexts();
-        if (!root.canSave)
+        if (!root.isPresented || !root.draft.complete)
             return;
         root.draft.saveTo(root.viewModel);
         root.dismissed();
-    }
-
-    function cancel(): void {
-        if (root.isPresented)
-            root.dismissed();
     }
 
     function takeTexts(): void {
@@ -41,7 +33,8 @@ FocusScope {
         root.draft.date = dateField.postDate.date;
     }
 
-    focus: true
+    title: root.draft.editing ? qsTr("Edit Post") : qsTr("New Post")
+    spacing: Theme.padding
     Keys.onEscapePressed: root.cancel()
 
     Component.onCompleted: {
@@ -59,92 +52,70 @@ FocusScope {
         onActivated: root.save()
     }
 
-    ColumnLayout {
-        anchors.fill: parent
-        anchors.margins: Theme.padding
-        spacing: Theme.padding
+    FormArea {
+        id: form
 
-        SheetTitle {
-            text: root.draft.editing ? qsTr("Edit Post") : qsTr("New Post")
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+
+        FormLabel {
+            text: qsTr("Title")
         }
 
-        FormArea {
+        OneLineField {
+            id: titleField
+
+            objectName: "titleField"
+            label: qsTr("Title")
+            focus: true
+            onTextChanged: root.draft.title = titleField.text
+            Layout.fillWidth: true
+        }
+
+        MultiLineField {
+            id: descriptionField
+
+            objectName: "descriptionField"
+            label: qsTr("Description")
+            Layout.columnSpan: form.columns
             Layout.fillWidth: true
             Layout.fillHeight: true
-
-            FormLabel {
-                text: qsTr("Title")
-            }
-
-            OneLineField {
-                id: titleField
-
-                objectName: "titleField"
-                label: qsTr("Title")
-                focus: true
-                onTextChanged: root.draft.title = titleField.text
-                Layout.fillWidth: true
-            }
-
-            MultiLineField {
-                id: descriptionField
-
-                objectName: "descriptionField"
-                label: qsTr("Description")
-                Layout.columnSpan: 2
-                Layout.fillWidth: true
-                Layout.fillHeight: true
-                Layout.minimumHeight: 100
-            }
-
-            FormLabel {
-                text: qsTr("Permalink (https://...)")
-            }
-
-            OneLineField {
-                id: permalinkField
-
-                objectName: "permalinkField"
-                label: qsTr("Permalink (https://...)")
-                onTextChanged: root.draft.permalink = permalinkField.text
-                Layout.fillWidth: true
-            }
-
-            FormLabel {
-                text: qsTr("Date")
-            }
-
-            DateTimeField {
-                id: dateField
-
-                objectName: "dateField"
-                postDate: PostDate {
-                }
-                label: qsTr("Date")
-                Layout.fillWidth: true
-            }
+            Layout.minimumHeight: 100
         }
 
-        RowLayout {
-            spacing: Theme.spacing
-
-            PushButton {
-                objectName: "cancelButton"
-                text: qsTr("Cancel")
-                onClicked: root.cancel()
-            }
-
-            Item {
-                Layout.fillWidth: true
-            }
-
-            PushButton {
-                objectName: "saveButton"
-                text: qsTr("Save")
-                prominent: true
-                enabled: root.canSave
-                onClicked: root.save()
-            }
+        FormLabel {
+            text: qsTr("Permalink (https://...)")
         }
+
+        OneLineField {
+            id: permalinkField
+
+            objectName: "permalinkField"
+            label: qsTr("Permalink (https://...)")
+            onTextChanged: root.draft.permalink = permalinkField.text
+            Layout.fillWidth: true
+        }
+
+        FormLabel {
+            text: qsTr("Date")
+        }
+
+        DateTimeField {
+            id: dateField
+
+            objectName: "dateField"
+            postDate: PostDate {
+            }
+            label: qsTr("Date")
+            Layout.fillWidth: true
+        }
+    }
+
+    SheetButtons {
+        action: qsTr("Save")
+        actionName: "saveButton"
+        actionEnabled: root.canSave
+        onCancelled: root.cancel()
+        onAccepted: root.save()
     }
 }

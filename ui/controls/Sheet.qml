@@ -3,7 +3,8 @@ import QtQuick.Templates as T
 import Tavlo
 
 // A form that lies over the window and is modal to it. Its owner says by isPresented whether it is
-// shown; each showing builds the form anew. Nothing outside the form closes it.
+// shown; each showing builds the form anew. Nothing outside the form closes it. Assistive tools know
+// it by the form's title.
 T.Popup {
     id: root
 
@@ -11,8 +12,11 @@ T.Popup {
     property bool isPresented: false
     // Whether it may be shown now: of two sheets, the later waits until the earlier has gone.
     property bool mayOpen: true
-    // The form. It keeps what it was opened with; its owner may change its mind while it leaves.
+    // The form, a SheetForm. It keeps what it was opened with; its owner may change its mind while
+    // it leaves.
     required property Component form
+
+    readonly property string title: ((root.contentItem as Loader)?.item as SheetForm)?.title ?? ""
 
     // From the moment the sheet starts to leave until it has gone. It takes no further input then.
     property bool leaving: false
@@ -31,6 +35,8 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.NoAutoClose
 
+    // To assistive tools, a popup is the item around its content.
+    onTitleChanged: root.contentItem.parent.Accessible.name = root.title
     onIsPresentedChanged: root.follow()
     onMayOpenChanged: root.follow()
     Component.onCompleted: root.follow()

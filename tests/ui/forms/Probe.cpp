@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFont>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QMetaEnum>
 #include <QQmlEngine>
 #include <QTest>
@@ -203,6 +204,19 @@ void Probe::hold(QWindow *window, int key, int modifiers, int repeats) const
     QTest::simulateEvent(window, false, key, held, text, false);
 }
 
+void Probe::compose(const QString &text) const
+{
+    QInputMethodEvent event(text, {});
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}
+
+void Probe::commit(const QString &text) const
+{
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}
+
 void Probe::setClipboard(const QString &text) const
 {
     QGuiApplication::clipboard()->setText(text);
@@ -245,6 +259,11 @@ QVariantMap Probe::accessible(QObject *item) const
             {QStringLiteral("name"), face->text(QAccessible::Name)},
             {QStringLiteral("description"), face->text(QAccessible::Description)},
             {QStringLiteral("states"), states}};
+}
+
+void Probe::startAssistiveTools() const
+{
+    QAccessible::setActive(true);
 }
 
 bool Probe::pressAccessibly(QObject *item) const

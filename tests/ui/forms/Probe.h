@@ -78,6 +78,10 @@ public:
     /// Presses a key, holds it for so many repeats, and releases it.
     Q_INVOKABLE void hold(QWindow *window, int key, int modifiers, int repeats) const;
 
+    /// Has an input method compose a text in the item that has the focus, or give it one for good.
+    Q_INVOKABLE void compose(const QString &text) const;
+    Q_INVOKABLE void commit(const QString &text) const;
+
     Q_INVOKABLE void setClipboard(const QString &text) const;
     Q_INVOKABLE void setRightToLeft(bool rightToLeft) const;
 
@@ -88,6 +92,9 @@ public:
     // that are set, in words
 
     Q_INVOKABLE QVariantMap accessible(QObject *item) const;
+
+    /// Tells the program that there is an assistive tool, as the desktop does.
+    Q_INVOKABLE void startAssistiveTools() const;
 
     /// Carries out an item's press action as an assistive tool does; false if it has none.
     Q_INVOKABLE bool pressAccessibly(QObject *item) const;

@@ -437,6 +437,123 @@ Item {
             compare(Object.keys(seen).sort(), ["cancelButton", "dateField", "descriptionField", "permalinkField", "saveButton", "titleField"]);
         }
 
+        function test_aTitleThatIsBeingComposedEnablesSave(): void {
+            const editor = test.open(undefined);
+            Probe.compose("か");
+            verify(saveButton(editor).enabled);
+            Probe.compose("");
+            verify(!saveButton(editor).enabled);
+            Probe.compose("か");
+            Probe.commit("課");
+            compare(field(editor, "titleField").text, "課");
+            verify(saveButton(editor).enabled);
+        }
+
+        function test_anotherTextThatIsBeingComposedEnablesNothing_data(): var {
+            return [{
+                    "tag": "descriptionField"
+                }, {
+                    "tag": "permalinkField"
+                }];
+        }
+
+        function test_anotherTextThatIsBeingComposedEnablesNothing(data: var): void {
+            const editor = test.open(undefined);
+            focusOn(editor, data.tag);
+            Probe.compose("か");
+            verify(!saveButton(editor).enabled);
+        }
+
+        function test_withoutContentAComposedTitleEnablesNothing(): void {
+            Probe.setPosts(root.store, [{
+                        "title": "",
+                        "content": ""
+                    }]);
+            const editor = test.edit(0);
+            Probe.compose("か");
+            verify(!saveButton(editor).enabled);
+            keySequence("Ctrl+Return");
+            editor.save();
+            compare(dismissals.count, 0);
+        }
+
+        function test_saveTakesWhatIsComposed_data(): var {
+            const rows = [];
+            for (const name of ["titleField", "descriptionField", "permalinkField"]) {
+                rows.push({
+                        "tag": name + ", by key",
+                        "name": name,
+                        "save": editor => keySequence("Ctrl+Return")
+                    }, {
+                        "tag": name + ", by the button",
+                        "name": name,
+                        "save": editor => mouseClick(saveButton(editor))
+                    }, {
+                        "tag": name + ", by an assistive tool",
+                        "name": name,
+                        "save": editor => Probe.pressAccessibly(saveButton(editor))
+                    });
+            }
+            return rows;
+        }
+
+        function test_saveTakesWhatIsComposed(data: var): void {
+            const editor = test.open(undefined);
+            if (data.name !== "titleField")
+                type("x");
+            focusOn(editor, data.name);
+            Probe.compose("かな");
+            data.save(editor);
+            compare(dismissals.count, 1);
+            const post = Probe.posts(root.store)[0];
+            compare(post.title, data.name === "titleField" ? "かな" : "x");
+            compare(post.description, data.name === "descriptionField" ? "かな" : "");
+            compare(post.permalink, data.name === "permalinkField" ? "かな" : "");
+        }
+
+        function test_whatIsComposedIsKeptWhenTheFocusGoes_data(): var {
+            return [{
+                    "tag": "titleField"
+                }, {
+                    "tag": "descriptionField"
+                }, {
+                    "tag": "permalinkField"
+                }];
+        }
+
+        function test_whatIsComposedIsKeptWhenTheFocusGoes(data: var): void {
+            const editor = test.open(undefined);
+            const left = focusOn(editor, data.tag);
+            Probe.compose("かな");
+            focusOn(editor, "cancelButton");
+            compare(data.tag === "descriptionField" ? left.exactText : left.text, "かな");
+        }
+
+        function test_returnAndEscapeAreTheCompositions_data(): var {
+            return [{
+                    "tag": "titleField"
+                }, {
+                    "tag": "descriptionField"
+                }, {
+                    "tag": "permalinkField"
+                }];
+        }
+
+        function test_returnAndEscapeAreTheCompositions(data: var): void {
+            const editor = test.open(undefined);
+            const composing = focusOn(editor, data.tag);
+            const text = () => data.tag === "descriptionField" ? composing.exactText : composing.text;
+            Probe.compose("かな");
+            keyClick(Qt.Key_Escape);
+            compare(dismissals.count, 0);
+            compare(text(), "");
+            Probe.compose("かな");
+            keyClick(Qt.Key_Return);
+            compare(text(), "かな");
+            keyClick(Qt.Key_Escape);
+            compare(dismissals.count, 1);
+        }
+
         function test_theTitleSaysWhatIsDone(): void {
             Probe.setPosts(root.store, [{
                         "title": "Any",

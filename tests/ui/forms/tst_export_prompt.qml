@@ -97,6 +97,7 @@ Item {
             waitForRendering(prompt);
             compare(rows(prompt).length, 3);
             verify(prompt.height < low);
+            compare(line.text, "");
         }
 
         function test_anErrorWithoutWordsIsShownToo(): void {
@@ -171,6 +172,64 @@ Item {
             keyClick(data.key, data.key === Qt.Key_Enter ? Qt.KeypadModifier : Qt.NoModifier);
             compare(exports.count, 1);
             compare(dismissals.count, 0);
+        }
+
+        function test_returnWithAModifierIsAnotherKey_data(): var {
+            return [{
+                    "tag": "Shift",
+                    "modifier": Qt.ShiftModifier
+                }, {
+                    "tag": "Ctrl",
+                    "modifier": Qt.ControlModifier
+                }, {
+                    "tag": "Alt",
+                    "modifier": Qt.AltModifier
+                }, {
+                    "tag": "Meta",
+                    "modifier": Qt.MetaModifier
+                }];
+        }
+
+        function test_returnWithAModifierIsAnotherKey(data: var): void {
+            test.open({});
+            keyClick(Qt.Key_Return, data.modifier);
+            keyClick(Qt.Key_Enter, data.modifier | Qt.KeypadModifier);
+            compare(exports.count, 0);
+        }
+
+        function test_anExportTakesWhatIsComposed(): void {
+            const prompt = test.open({});
+            Probe.compose("/かな");
+            prompt.requestExport();
+            compare(edits.signalArguments[edits.count - 1][0], "/かな");
+            compare(exports.count, 1);
+        }
+
+        function test_returnEndsACompositionBeforeItExports(): void {
+            test.open({});
+            Probe.compose("/かな");
+            keyClick(Qt.Key_Return);
+            compare(exports.count, 0);
+            compare(edits.signalArguments[edits.count - 1][0], "/かな");
+            keyClick(Qt.Key_Return);
+            compare(exports.count, 1);
+        }
+
+        function test_thePathOfTheOwnerIsThatOfTheField(): void {
+            const prompt = test.open({
+                    "exportPath": "/first"
+                });
+            const path = field(prompt, "pathField");
+            keyClick(Qt.Key_End);
+            keyClick("x");
+            compare(path.text, "/firstx");
+            path.cursorPosition = 3;
+            prompt.exportPath = "/firstx";
+            compare(path.cursorPosition, 3);
+            prompt.exportPath = "/second";
+            compare(path.text, "/second");
+            prompt.exportPath = "";
+            compare(path.text, "");
         }
 
         function test_escapeIsBoundToNothing_data(): var {

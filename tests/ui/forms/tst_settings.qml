@@ -163,6 +163,62 @@ Item {
             compare(root.store.blogTitle, field(settings, "titleField").text);
         }
 
+        function test_returnWithAModifierIsAnotherKey_data(): var {
+            return [{
+                    "tag": "Shift",
+                    "modifier": Qt.ShiftModifier
+                }, {
+                    "tag": "Ctrl",
+                    "modifier": Qt.ControlModifier
+                }, {
+                    "tag": "Alt",
+                    "modifier": Qt.AltModifier
+                }, {
+                    "tag": "Meta",
+                    "modifier": Qt.MetaModifier
+                }];
+        }
+
+        function test_returnWithAModifierIsAnotherKey(data: var): void {
+            test.open();
+            keyClick(Qt.Key_Return, data.modifier);
+            keyClick(Qt.Key_Enter, data.modifier | Qt.KeypadModifier);
+            compare(dismissals.count, 0);
+            compare(changes.count, 0);
+        }
+
+        function test_saveTakesWhatIsComposed(): void {
+            const settings = test.open();
+            keySequence("Ctrl+A");
+            Probe.compose("かな");
+            settings.save();
+            compare(root.store.blogTitle, "かな");
+        }
+
+        function test_returnEndsACompositionBeforeItSaves(): void {
+            const settings = test.open();
+            keySequence("Ctrl+A");
+            Probe.compose("かな");
+            keyClick(Qt.Key_Return);
+            compare(field(settings, "titleField").text, "かな");
+            compare(dismissals.count, 0);
+            keyClick(Qt.Key_Return);
+            compare(dismissals.count, 1);
+            compare(root.store.blogTitle, "かな");
+        }
+
+        function test_escapeEndsACompositionBeforeItCancels(): void {
+            const settings = test.open();
+            const title = field(settings, "titleField").text;
+            keyClick(Qt.Key_End);
+            Probe.compose("かな");
+            keyClick(Qt.Key_Escape);
+            compare(field(settings, "titleField").text, title);
+            compare(dismissals.count, 0);
+            keyClick(Qt.Key_Escape);
+            compare(dismissals.count, 1);
+        }
+
         function test_cancelLeavesStoreAndFile_data(): var {
             const rows = [{
                     "tag": "the button",
@@ -246,6 +302,17 @@ Item {
             const save = field(settings, "saveButton");
             compare(cancel.mapToItem(settings, 0, 0).x, Theme.padding);
             compare(save.mapToItem(settings, save.width, 0).x, settings.width - Theme.padding);
+        }
+
+        function test_fieldsKeepTheirDistanceWhereThereIsRoom(): void {
+            const settings = test.open();
+            waitForRendering(settings);
+            const places = fields.map(name => {
+                    const item = field(settings, name);
+                    return item.mapToItem(settings, 0, 0, item.width, item.height);
+                });
+            compare(places[1].top - places[0].bottom, Theme.padding);
+            compare(places[2].top - places[1].bottom, Theme.padding);
         }
 
         function test_assistiveToolsAreToldOfEachControl_data(): var {

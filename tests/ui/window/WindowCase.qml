@@ -32,7 +32,7 @@ TestCase {
 
     // Waits until every item on screen has its place.
     function waitForLayout(): void {
-        tryVerify(() => !root.shownItems(root.view).some(item => root.isPolishScheduled(item)));
+        tryVerify(() => !root.shownItems(root.app.contentItem.parent).some(item => root.isPolishScheduled(item)));
     }
 
     function titles(): var {

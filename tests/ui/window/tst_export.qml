@@ -45,6 +45,22 @@ WindowCase {
         compare(root.view.exportPath, "/a");
     }
 
+    function test_thePathOfTheWindowIsThatOfTheField(): void {
+        openSheet("exportSheet");
+        root.view.exportPath = Probe.home + "/set.xml";
+        compare(pathField().text, Probe.home + "/set.xml");
+        keyClick(Qt.Key_End);
+        keyClick("l");
+        pathField().cursorPosition = 2;
+        compare(root.view.exportPath, Probe.home + "/set.xmll");
+        keyClick("z");
+        compare(pathField().cursorPosition, 3);
+        root.view.exportPath = Probe.home + "/again.xml";
+        keyClick(Qt.Key_Return);
+        compare(Probe.read("again.xml"), Probe.feed(root.store));
+        waitUntilGone("exportSheet");
+    }
+
     function test_cancelKeepsTheTypedPathUntilTheNextPress(): void {
         openSheet("exportSheet");
         replacePath(Probe.home + "/typed.xml");
@@ -97,14 +113,18 @@ WindowCase {
         waitUntilGone("exportSheet");
     }
 
-    function test_anEmptyPathClosesThePrompt(): void {
+    function test_anEmptyPathIsExportedAndClosesThePrompt(): void {
+        const folder = Probe.stateOf(".");
+        root.view.exportError = "an error";
         openSheet("exportSheet");
         replacePath("");
         compare(root.view.exportPath, "");
         verify(control("exportSheet", "exportButton").enabled);
         keyClick(Qt.Key_Return);
         compare(root.view.showingExportPrompt, false);
+        compare(root.view.exportError, undefined);
         waitUntilGone("exportSheet");
+        compare(Probe.stateOf("."), folder);
     }
 
     function test_aPathThatCannotBeWrittenClosesThePromptWithoutAWord(): void {

@@ -115,6 +115,123 @@ WindowCase {
         }
     }
 
+    // The part of a form that shows, and its fades.
+    function formArea(sheetName: string): Item {
+        return shownItems(form(sheetName)).find(item => item as FormArea);
+    }
+
+    function fades(sheetName: string): var {
+        return shownItems(formArea(sheetName)).filter(item => item as EdgeFade && item.parent === formArea(sheetName)).map(fade => fade.edge).sort();
+    }
+
+    function test_aFieldThatHasTheFocusIsWhollyInSight_data(): var {
+        return [{
+                "tag": "editorSheet",
+                "size": 26
+            }, {
+                "tag": "editorSheet at three times the size",
+                "sheet": "editorSheet",
+                "size": 39
+            }, {
+                "tag": "settingsSheet",
+                "size": 26
+            }];
+    }
+
+    function test_aFieldThatHasTheFocusIsWhollyInSight(data: var): void {
+        Probe.setTextSize(data.size);
+        const sheet = data.sheet ?? data.tag;
+        openSheet(sheet);
+        waitForLayout();
+        const names = sheet === "editorSheet" ? ["titleField", "descriptionField", "permalinkField", "dateField"] : ["titleField", "linkField", "descriptionField"];
+        const seen = {};
+        for (let i = 0; i < 24; ++i) {
+            keyClick(i < 12 ? Qt.Key_Tab : Qt.Key_Backtab, i < 12 ? Qt.NoModifier : Qt.ShiftModifier);
+            waitForLayout();
+            for (const name of names) {
+                const field = control(sheet, name);
+                if (field.activeFocus) {
+                    seen[name] = true;
+                    verify(inside(field, formArea(sheet)), name);
+                }
+            }
+        }
+        compare(Object.keys(seen).length, names.length);
+    }
+
+    function test_theLabelAboveAFieldThatHasTheFocusIsInSightToo(): void {
+        openSheet("settingsSheet");
+        waitForLayout();
+        const labels = shownItems(form("settingsSheet")).filter(item => item as FormLabel);
+        compare(labels.length, 3);
+        const names = ["titleField", "linkField", "descriptionField"];
+        for (const i of [1, 2, 1, 0]) {
+            control("settingsSheet", names[i]).forceActiveFocus(Qt.TabFocusReason);
+            verify(inside(labels[i], formArea("settingsSheet")), names[i]);
+        }
+    }
+
+    function test_ofAFieldHigherThanItsViewTheCursorIsInSight(): void {
+        openSheet("editorSheet");
+        part("editorSheet").height = 240;
+        const field = control("editorSheet", "descriptionField");
+        const area = field.textArea;
+        field.forceActiveFocus();
+        waitForLayout();
+        compare(field.height > formArea("editorSheet").height, true);
+        const line = () => area.mapToItem(formArea("editorSheet"), area.cursorRectangle);
+        for (const key of [Qt.Key_Return, Qt.Key_Return, Qt.Key_Return, Qt.Key_Return, Qt.Key_Up, Qt.Key_Up, Qt.Key_Up, Qt.Key_Up]) {
+            keyClick(key);
+            tryVerify(() => line().top >= 0 && line().bottom <= formArea("editorSheet").height, 1000, "" + line());
+        }
+    }
+
+    function test_settingsHaveTheirLabelsAboveTheFields(): void {
+        openSheet("settingsSheet");
+        waitForLayout();
+        const label = shownItems(form("settingsSheet")).find(item => item as FormLabel);
+        const field = control("settingsSheet", "titleField");
+        verify(place(label).bottom <= place(field).top);
+        compare(place(label).left, place(field).left);
+        verify(field.width > 0.8 * form("settingsSheet").width);
+        Probe.setTextSize(13);
+        waitForLayout();
+        tryVerify(() => place(label).right <= place(field).left);
+    }
+
+    function test_labelsAboveTheirFieldsStandWhereReadingStarts(): void {
+        Probe.setRightToLeft(true);
+        openSheet("settingsSheet");
+        waitForLayout();
+        const label = shownItems(form("settingsSheet")).find(item => item as FormLabel);
+        compare(place(label).right, place(control("settingsSheet", "titleField")).right);
+    }
+
+    function test_aFormFadesWhereItGoesOn(): void {
+        openSheet("settingsSheet");
+        waitForLayout();
+        compare(fades("settingsSheet"), [Qt.BottomEdge]);
+        keyClick(Qt.Key_Tab);
+        waitForLayout();
+        compare(fades("settingsSheet"), [Qt.TopEdge, Qt.BottomEdge]);
+        keyClick(Qt.Key_Tab);
+        waitForLayout();
+        compare(fades("settingsSheet"), [Qt.TopEdge]);
+        Probe.setTextSize(13);
+        tryVerify(() => fades("settingsSheet").length === 0);
+    }
+
+    function test_thePathHasTheHeightOfItsLine(): void {
+        openSheet("exportSheet");
+        const field = control("exportSheet", "pathField");
+        const sheet = form("exportSheet");
+        const high = sheet.height;
+        tryVerify(() => field.height < 2 * Theme.bodySize + field.topPadding + field.bottomPadding);
+        keyClick(Qt.Key_Delete);
+        tryVerify(() => field.height > 2 * Theme.bodySize + field.topPadding + field.bottomPadding);
+        tryVerify(() => sheet.height > high && sheet.height === sheet.implicitHeight);
+    }
+
     function test_theScrollBarOfAFormIsBesideItsFields_data(): var {
         return [{
                 "tag": "from the left",

@@ -68,6 +68,32 @@ WindowCase {
         verify(frame.top >= 0 && frame.bottom <= root.app.height);
     }
 
+    function test_assistiveToolsKnowASheetByItsTitle_data(): var {
+        return root.sheets;
+    }
+
+    function test_assistiveToolsKnowASheetByItsTitle(data: var): void {
+        Probe.startAssistiveTools();
+        openSheet(data.tag);
+        const told = Probe.accessible(part(data.tag).contentItem.parent);
+        compare(told.role, "Dialog");
+        verify(told.name !== "");
+        compare(told.name, sheetTitle(data.tag));
+    }
+
+    function test_assistiveToolsHearOfAnotherTitle(): void {
+        Probe.startAssistiveTools();
+        openSheet("editorSheet");
+        const dialog = part("editorSheet").contentItem.parent;
+        compare(Probe.accessible(dialog).name, "New Post");
+        keyClick(Qt.Key_Escape);
+        waitUntilGone("editorSheet");
+        root.view.editingPost = Probe.postAt(root.store, 0);
+        root.view.showingEditor = true;
+        waitUntilOpen("editorSheet");
+        compare(Probe.accessible(dialog).name, "Edit Post");
+    }
+
     function test_theFirstFieldHasTheFocusAndTakesKeysAtOnce_data(): var {
         return root.sheets;
     }
@@ -256,14 +282,45 @@ WindowCase {
         compare(titles().length, 31);
     }
 
-    function test_settingsDismissedLeaveTheOtherFieldsAlone(): void {
+    function test_settingsAndExportDismissedLeaveTheOtherFieldsAlone_data(): var {
+        return [{
+                "tag": "settings, by Escape",
+                "sheet": "settingsSheet",
+                "flag": "showingSettings",
+                "dismiss": () => keyClick(Qt.Key_Escape)
+            }, {
+                "tag": "settings, by Cancel",
+                "sheet": "settingsSheet",
+                "flag": "showingSettings",
+                "dismiss": () => mouseClick(control("settingsSheet", "cancelButton"))
+            }, {
+                "tag": "settings, by the owner",
+                "sheet": "settingsSheet",
+                "flag": "showingSettings",
+                "dismiss": () => root.view.showingSettings = false
+            }, {
+                "tag": "export, by Cancel",
+                "sheet": "exportSheet",
+                "flag": "showingExportPrompt",
+                "dismiss": () => mouseClick(control("exportSheet", "cancelButton"))
+            }, {
+                "tag": "export, by the owner",
+                "sheet": "exportSheet",
+                "flag": "showingExportPrompt",
+                "dismiss": () => root.view.showingExportPrompt = false
+            }];
+    }
+
+    function test_settingsAndExportDismissedLeaveTheOtherFieldsAlone(data: var): void {
         root.view.exportPath = "/typed";
         root.view.exportError = "an error";
         const post = Probe.postAt(root.store, 0);
         root.view.editingPost = post;
-        openSheet("settingsSheet");
-        keyClick(Qt.Key_Escape);
-        waitUntilGone("settingsSheet");
+        root.view[data.flag] = true;
+        waitUntilOpen(data.sheet);
+        data.dismiss();
+        waitUntilGone(data.sheet);
+        compare(flags(), [false, false, false]);
         compare(root.view.exportPath, "/typed");
         compare(root.view.exportError, "an error");
         compare(Probe.fields(root.view.editingPost), Probe.fields(post));
@@ -303,6 +360,41 @@ WindowCase {
         tryVerify(() => !shownText("Select All"));
         keyClick(Qt.Key_Escape);
         compare(root.view.showingSettings, false);
+    }
+
+    function test_anOpenFieldMenuTakesReturnFirst_data(): var {
+        return [{
+                "tag": "settings",
+                "sheet": "settingsSheet",
+                "field": "titleField",
+                "flag": "showingSettings"
+            }, {
+                "tag": "export",
+                "sheet": "exportSheet",
+                "field": "pathField",
+                "flag": "showingExportPrompt"
+            }];
+    }
+
+    function test_anOpenFieldMenuTakesReturnFirst(data: var): void {
+        openSheet(data.sheet);
+        const field = control(data.sheet, data.field);
+        const text = field.text;
+        field.selectAll();
+        keyClick(Qt.Key_Menu);
+        const menu = findChild(field, "editMenu");
+        tryCompare(menu, "opened", true);
+        while (menu.itemAt(menu.currentIndex).objectName !== "cutItem")
+            keyClick(Qt.Key_Down);
+        keyClick(Qt.Key_Return);
+        tryCompare(menu, "visible", false);
+        verify(text !== "");
+        compare(field.text, "");
+        compare(root.view[data.flag], true);
+        verify(field.activeFocus);
+        verify(!Probe.exists("Desktop/feed.xml"));
+        keyClick(Qt.Key_Return);
+        compare(root.view[data.flag], false);
     }
 
     name: "Sheets"
