@@ -25,14 +25,20 @@ Item {
     property bool animated: false
     // The text on screen: it follows `text`.
     property string shownText: ""
-    // An empty text takes no line.
-    readonly property real textHeight: root.shownText.length > 0 ? label.height : 0
+    // An empty text takes no line, any other at least one of the font's own: letters that are not in
+    // it come from fonts whose lines may be lower.
+    readonly property real textHeight: root.shownText.length > 0 ? Math.max(Math.ceil(metrics.height), label.y + label.height) : 0
     // How much taller than the text the item is while its height follows.
     property real surplus: 0
     property bool complete: false
 
     implicitHeight: root.textHeight + root.surplus
     clip: transition.running
+
+    // How far below the top a text begins, so that its first line stands where one in the font would.
+    function topOf(text: Text): real {
+        return Math.max(0, Math.round(metrics.ascent - text.baselineOffset));
+    }
 
     onTextChanged: {
         transition.complete();
@@ -56,6 +62,7 @@ Item {
 
         anchors.left: parent.left
         anchors.right: parent.right
+        y: root.topOf(label)
         text: root.shownText
     }
 
@@ -64,11 +71,18 @@ Item {
 
         anchors.left: parent.left
         anchors.right: parent.right
+        y: root.topOf(former)
         font: label.font
         color: label.color
         wrapMode: label.wrapMode
         horizontalAlignment: label.horizontalAlignment
         visible: transition.running
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font: label.font
     }
 
     ParallelAnimation {

@@ -36,6 +36,8 @@ Rectangle {
             id: logo
 
             spacing: Theme.spacing
+            // Above the buttons, it is the name's capitals that stand below the padding, not its line.
+            Layout.topMargin: root.fits ? 0 : -Math.floor(name.baselineOffset + capitals.tightBoundingRect.y)
 
             Image {
                 source: "rss-logo.svg"
@@ -47,6 +49,8 @@ Rectangle {
             }
 
             Text {
+                id: name
+
                 text: "Tavlo"
                 color: Theme.text
                 font.pixelSize: Theme.largeTitleSize
@@ -110,5 +114,12 @@ Rectangle {
                 onClicked: root.settingsRequested()
             }
         }
+    }
+
+    TextMetrics {
+        id: capitals
+
+        font: name.font
+        text: name.text
     }
 }

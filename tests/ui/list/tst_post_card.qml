@@ -169,6 +169,26 @@ TestCase {
         compare(findChild(root.card, "description").height, 0);
     }
 
+    // Letters that the font does not have come from another, whose lines may be lower.
+    function test_aLineInAnotherFontIsNoLowerThanOneInTheCardsOwn_data(): var {
+        return ["سطر", "שורה", "一行", "บรรทัด"].map(line => ({
+                        "tag": line
+                    }));
+    }
+
+    function test_aLineInAnotherFontIsNoLowerThanOneInTheCardsOwn(data: var): void {
+        show(StoreHand.post("A line", "A line"));
+        const height = root.card.height;
+        const baseline = placeOf(text("title")).y + text("title").baselineOffset;
+        root.card.title = data.tag;
+        root.card.description = data.tag;
+        verify(root.card.height >= height);
+        verify(placeOf(text("title")).y + text("title").baselineOffset >= baseline - 0.51);
+        root.card.title = "A line";
+        root.card.description = "A line";
+        compare(root.card.height, height);
+    }
+
     function test_nothingIsSelectableOrALink(): void {
         show(StoreHand.post("t", "d", "https://blog.example"));
         for (const name of ["title", "description", "date", "permalink"])

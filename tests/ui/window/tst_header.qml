@@ -32,6 +32,10 @@ WindowCase {
         openWindow([]);
     }
 
+    function cleanup(): void {
+        Probe.setTextSize(0);
+    }
+
     function test_buttonsHaveTheirTextsSymbolsAndHelp_data(): var {
         return root.buttons;
     }
@@ -77,6 +81,19 @@ WindowCase {
         fuzzyCompare(row[5].right, root.view.width - Theme.padding, 1);
         for (const button of row.slice(2))
             compare(button.top, row[2].top);
+    }
+
+    function test_besideTheButtonsOrAboveThem_theNameLeavesNoMoreRoomThanThePadding(): void {
+        const name = shownItems(root.view).find(item => item.text === "Tavlo");
+        const capitals = createTemporaryObject(metrics, root, {
+                "font": name.font
+            });
+        compare(place(part("newPostButton")).top, Theme.padding);
+        Probe.setTextSize(26);
+        waitForLayout();
+        capitals.font = name.font;
+        verify(place(part("newPostButton")).top > place(name).top + name.baselineOffset);
+        fuzzyCompare(place(name).top + name.baselineOffset + capitals.tightBoundingRect.y, Theme.padding, 1);
     }
 
     function test_aLineDividesTheHeaderFromThePage(): void {
@@ -136,6 +153,14 @@ WindowCase {
         Probe.pressAccessibly(part("exportButton"));
         compare(root.view.showingEditor, false);
         compare(root.view.showingExportPrompt, false);
+    }
+
+    Component {
+        id: metrics
+
+        TextMetrics {
+            text: "Tavlo"
+        }
     }
 
     name: "Header"
