@@ -44,6 +44,8 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.CloseOnPressOutsideParent
 
+    // To assistive tools, a popup is the item around its content.
+    Component.onCompleted: root.contentItem.parent.Accessible.name = qsTr("Choose Day")
     onAboutToShow: root.place()
     onOpened: (root.contentItem as MonthView).focusCurrentDay()
 

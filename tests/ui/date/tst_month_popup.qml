@@ -112,6 +112,9 @@ Item {
             const seen = DateHand.accessible(findChild(test.field, "monthPopup").contentItem);
             compare(seen.name, "January 2026");
             compare(seen.role, "Grouping");
+            const dialog = DateHand.accessible(findChild(test.field, "monthPopup").contentItem.parent);
+            compare(dialog.name, "Choose Day");
+            compare(dialog.role, "Dialog");
         }
 
         function test_keysMoveByDaysWeeksMonthsAndYears(): void {
