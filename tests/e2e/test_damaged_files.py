@@ -1,7 +1,8 @@
 """Data files that cannot be read: the program starts as if they were not there, leaves them alone,
-and overwrites each with its next save."""
+and overwrites each with its next save. And files that cannot be written."""
 
 import json
+import os
 import re
 import time
 import unittest
@@ -73,6 +74,11 @@ def put(file, content):
         file.mkdir()
     else:
         file.write_bytes(content)
+
+
+def without_privileges(command):
+    """A command that respects a file's permissions, for whoever may do anything."""
+    return ["setpriv", "--inh-caps=-all", "--bounding-set=-all", *command] if os.geteuid() == 0 else command
 
 
 def look(file):
@@ -160,6 +166,25 @@ class DamagedFiles(Story):
                 with self.subTest(words):
                     self.check_start(program, words in OVERWRITTEN)
                 program.end()
+
+    def test_what_may_not_be_written_is_left_alone_and_the_change_is_lost(self):
+        program = self.program_with(reference.posts_file([POST]), settings_with())
+        program.command = without_privileges(program.command)
+        for name in ("posts.json", "rss_settings.json"):
+            program.file(name).chmod(0o444)
+        before = look(program.file("posts.json")), look(program.file("rss_settings.json"))
+        program.start()
+        self.use(program)
+        self.write_post("Lost")
+        self.wait_for_titles("Lost", "Kept")
+        self.change_settings(blog_title="Lost")
+        self.assertIn(b"<title>Lost</title>", self.exported())
+        self.wait_until_export_closed()
+        self.assertEqual(program.close_window(), ("", ""))
+        self.assertEqual((look(program.file("posts.json")), look(program.file("rss_settings.json"))), before)
+
+        program.start()
+        self.wait_for_titles("Kept")
 
     def test_each_file_is_read_whatever_the_other_holds(self):
         feed = reference.feed("Own", "https://own.example", "Mine", [])

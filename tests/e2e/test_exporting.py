@@ -13,13 +13,17 @@ POSTS = [
 ]
 
 
+LINK = "https://example.com/?a=1&b=<2>"
+DESCRIPTION = "Notes & <b>small</b> things"
+
+
 class Exporting(Story):
 
     def setUp(self):
         super().setUp()
         self.program.file("posts.json").write_bytes(reference.posts_file(POSTS))
-        self.program.file("rss_settings.json").write_bytes(reference.settings_file("A long & proper title", "l", ""))
-        self.feed = reference.feed("A long & proper title", "l", "", POSTS)
+        self.program.file("rss_settings.json").write_bytes(reference.settings_file("A long & proper title", LINK, DESCRIPTION))
+        self.feed = reference.feed("A long & proper title", LINK, DESCRIPTION, POSTS)
         self.proposed = self.program.file("Desktop/feed.xml")
 
     def path(self):
@@ -105,11 +109,11 @@ class Exporting(Story):
         program.wait_for_state("focused", "text", PATH_FIELD)
         program.click(program.wait_for("push button", "Export"), times=2)
         self.wait_until_export_closed()
-        self.assertEqual(self.proposed.read_bytes(), reference.feed("T", "l", "", POSTS[1:]))
+        self.assertEqual(self.proposed.read_bytes(), reference.feed("T", LINK, DESCRIPTION, POSTS[1:]))
 
         self.card_menu_by_mouse("Gr\u00fc\u00dfe \U0001f44b", "Delete Post")
         program.wait_for(name="No blog posts yet.")
-        self.assertEqual(self.export_to(self.proposed), reference.feed("T", "l", "", []))
+        self.assertEqual(self.export_to(self.proposed), reference.feed("T", LINK, DESCRIPTION, []))
 
 
 if __name__ == "__main__":

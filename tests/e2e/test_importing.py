@@ -70,6 +70,12 @@ class Importing(PanelStory):
         self.wait_for_posts(*[title for title, _, _ in BY_HAND])
         self.check_imported(BY_HAND, since)
 
+        # The channel's settings are not the feed's.
+        self.open_settings()
+        self.assertEqual([self.program.text_of(field) for field in ("Blog Title", "Blog Link", "Blog Description")],
+                         ["Own", "https://own.example", "Mine"])
+        self.program.press("Cancel")
+        self.wait_until_settings_closed()
         self.assertEqual(self.program.close_window(), ("", ""))
         after = self.stamp("posts.json")
         self.program.start()
@@ -91,11 +97,26 @@ class Importing(PanelStory):
         self.check_imported([("Tom & Jerry", "a &lt; b &amp; c &amp;amp; d", "https://example.com/?a=1&b=2"),
                              ("Kept", "as it was", "https://kept.example/1")], since)
 
-    def test_an_empty_file_empties_the_list(self):
+    def test_a_file_without_items_empties_the_list(self):
         self.import_file(self.put("empty.rss", b""))
         self.program.wait_for(name="No blog posts yet.")
         self.wait_for_bytes("posts.json", b"[]")
         self.wait_for_titles()
+
+        self.import_file(self.put("one.rss", feed_of("One")))
+        self.wait_for_titles("One")
+        self.import_file(self.put("channel.rss", b"<rss><channel><title>A channel</title></channel></rss>"))
+        self.program.wait_for(name="No blog posts yet.")
+        self.wait_for_bytes("posts.json", b"[]")
+
+    def test_an_item_stands_between_plain_tags_wherever_they_are(self):
+        self.import_file(self.put("odd.rss", b"""<item id="1"><title>With an attribute</title></item>
+            <ITEM><title>In capitals</title></ITEM>
+            <item><title>Outer<item><title>Inner</title></item></item>
+            <item><TITLE>No title</TITLE><description>Only a description</description></item>
+            <item><title>Left open</title>"""))
+        self.wait_for_posts("Outer<item><title>Inner", "")
+        self.wait_for_titles("Outer<item><title>Inner", "")
 
     def test_a_file_that_is_not_utf8_changes_nothing_and_says_so_on_standard_output(self):
         before = self.stamp("posts.json")
