@@ -1,6 +1,7 @@
 #include "model/Files.h"
 
 #include "tests/support/FileSizeLimit.h"
+#include "tests/support/MemoryLimit.h"
 #include "tests/support/Printers.h"
 #include "tests/support/SpecialFiles.h"
 #include "tests/support/TemporaryHome.h"
@@ -117,6 +118,16 @@ TEST_F(Files, aFileThatTellsNoSize_isReadToItsEnd)
     const auto bytes = readFile(u"/proc/self/cmdline"_s);
     ASSERT_TRUE(bytes);
     EXPECT_TRUE(bytes->contains("test_files"));
+}
+
+TEST_F(Files, aFileLargerThanMemory_isNotRead)
+{
+    constexpr qint64 terabyte = qint64(1) << 40;
+    constexpr rlim_t memory = rlim_t(16) << 30;
+    QFile file(m_home.path(u"large"_s)); // of no block on the disk
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(terabyte));
+    const MemoryLimit limit(memory);
+    EXPECT_EQ(readFile(file.fileName()), std::nullopt);
 }
 
 TEST_F(Files, aMissingFile_isNotRead)
