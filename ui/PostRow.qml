@@ -12,7 +12,8 @@ FocusScope {
     required property string description
     required property string permalink
     required property string dateText
-    required property BlogViewModel viewModel
+    // The card's store.
+    property alias viewModel: card.viewModel
     // Whether it is the row that Tab leads to.
     property bool current: false
     property bool focusShown: false
@@ -54,7 +55,6 @@ FocusScope {
         title: root.title
         description: root.description
         permalink: root.permalink
-        viewModel: root.viewModel
         dateText: root.dateText
         focusShown: root.focusShown
         animated: root.animated
