@@ -129,9 +129,9 @@ WindowCase {
                 "tag": "editorSheet",
                 "size": 26
             }, {
-                "tag": "editorSheet at three times the size",
+                "tag": "editorSheet at four times the size",
                 "sheet": "editorSheet",
-                "size": 39
+                "size": 52
             }, {
                 "tag": "settingsSheet",
                 "size": 26
@@ -142,6 +142,8 @@ WindowCase {
         Probe.setTextSize(data.size);
         const sheet = data.sheet ?? data.tag;
         openSheet(sheet);
+        if (sheet === "editorSheet")
+            control(sheet, "descriptionField").source = "line\n".repeat(50);
         waitForLayout();
         const names = sheet === "editorSheet" ? ["titleField", "descriptionField", "permalinkField", "dateField"] : ["titleField", "linkField", "descriptionField"];
         const seen = {};
