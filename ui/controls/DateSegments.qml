@@ -13,8 +13,12 @@ FieldGround {
 
     readonly property int widestWidth: {
         let width = 0;
-        for (let i = 0; i < segments.count; ++i)
-            width += (segments.itemAt(i) as DateSegment).widestWidth;
+        for (let i = 0; i < segments.count; ++i) {
+            const segment = segments.itemAt(i) as DateSegment;
+            // The parts of a form that goes are gone before it is.
+            if (segment)
+                width += segment.widestWidth;
+        }
         return width;
     }
 

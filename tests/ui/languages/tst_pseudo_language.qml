@@ -175,6 +175,23 @@ WindowCase {
         check(form("editorSheet"));
     }
 
+    function test_1_theEditorOfADateWithoutADay(): void {
+        root.view.editingPost = Probe.post({
+                "title": "Πρώτο",
+                "seconds": 1e300
+            });
+        root.view.showingEditor = true;
+        waitUntilOpen("editorSheet");
+        check(form("editorSheet"));
+    }
+
+    function test_1_theMenuOfTheDate(): void {
+        openSheet("editorSheet");
+        control("editorSheet", "dateField").forceActiveFocus();
+        keyClick(Qt.Key_Menu);
+        checkMenu(findChild(control("editorSheet", "dateField"), "dateMenu") as AppMenu);
+    }
+
     function test_1_theMonth(): void {
         openSheet("editorSheet");
         mouseClick(control("editorSheet", "monthButton"));
