@@ -70,6 +70,20 @@ WindowCase {
         compare(root.view.showingEditor, false);
     }
 
+    function test_aClickBesideTheMonth_givesAnotherFieldTheKeyboard(): void {
+        openSheet("editorSheet");
+        const button = control("editorSheet", "monthButton");
+        mouseClick(button);
+        const month = findChild(button, "monthPopup");
+        tryCompare(month, "opened", true);
+        const field = control("editorSheet", "titleField");
+        mouseClick(field);
+        type("a");
+        tryCompare(month, "visible", false);
+        type("b");
+        compare(field.text, "ab");
+    }
+
     function test_theDatesMenuGivesThePartThatWasClickedTheKeyboard(): void {
         openSheet("editorSheet");
         const part = control("editorSheet", "minutePart");
