@@ -27,8 +27,10 @@ T.TextField {
     }
 
     implicitWidth: Math.max(placeholder.implicitWidth, 12 * Theme.bodySize) + leftPadding + rightPadding
-    implicitHeight: Math.max(contentHeight, root.hinting ? placeholder.implicitHeight : 0) + topPadding + bottomPadding
-    padding: Theme.controlPadding
+    implicitHeight: Math.max(contentHeight, root.hinting ? placeholder.implicitHeight : 0) + 2 * Theme.controlPadding
+    // Where the text is cut, it is cut at the padding above and below, too: marks of other fonts reach
+    // there.
+    padding: Theme.focusWidth
     leftPadding: Theme.controlPadding + 3
     rightPadding: Theme.controlPadding + 3
     maximumLength: 2147483647

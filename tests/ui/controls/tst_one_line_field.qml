@@ -346,6 +346,15 @@ Item {
             field.width = 300;
         }
 
+        // A text that is cut is cut at the paddings, the upper and the lower ones too.
+        function test_cutText_hasRoomForMarksAboveAndBelowTheLine(): void {
+            field.text = "many words ".repeat(100);
+            verify(field.topPadding <= Theme.focusWidth);
+            verify(field.bottomPadding <= Theme.focusWidth);
+            compare(field.height, Math.ceil(field.contentHeight) + 2 * Theme.controlPadding);
+            compare(field.cursorRectangle.y + field.cursorRectangle.height / 2, field.height / 2);
+        }
+
         function test_cutText_fadesOut_unlessTheCursorIsInIt_data(): var {
             return [{
                     "tag": "from the left",

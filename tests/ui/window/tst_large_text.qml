@@ -228,9 +228,9 @@ WindowCase {
         const field = control("exportSheet", "pathField");
         const sheet = form("exportSheet");
         const high = sheet.height;
-        tryVerify(() => field.height < 2 * Theme.bodySize + field.topPadding + field.bottomPadding);
+        tryVerify(() => field.height < 2 * Theme.bodySize + 2 * Theme.controlPadding);
         keyClick(Qt.Key_Delete);
-        tryVerify(() => field.height > 2 * Theme.bodySize + field.topPadding + field.bottomPadding);
+        tryVerify(() => field.height > 2 * Theme.bodySize + 2 * Theme.controlPadding);
         tryVerify(() => sheet.height > high && sheet.height === sheet.implicitHeight);
     }
 
