@@ -89,9 +89,12 @@ T.TextField {
 
     // Where a text is cut, it fades out: it can be seen to go on.
     EdgeFade {
+        // The text is seen for a cursor's width beyond its edge.
+        readonly property int beyond: 3
+
         objectName: "fade"
         visible: !root.inUse && root.contentWidth > root.width - root.leftPadding - root.rightPadding
-        x: root.runsFromRight ? root.leftPadding : root.width - root.rightPadding - width
+        x: root.runsFromRight ? root.leftPadding - beyond : root.width - root.rightPadding + beyond - width
         y: root.topPadding
         width: 2 * Theme.bodySize
         height: root.height - root.topPadding - root.bottomPadding
