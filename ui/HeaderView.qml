@@ -8,6 +8,8 @@ Rectangle {
     id: root
 
     readonly property bool fits: logo.implicitWidth + Theme.padding + buttons.oneRowWidth <= root.width - 2 * Theme.padding
+    // Above the buttons, it is the name's capitals that stand below the padding, not its line.
+    readonly property real overhang: root.fits ? 0 : Math.floor(name.baselineOffset + capitals.tightBoundingRect.y)
 
     signal newPostRequested
     signal exportRequested
@@ -19,14 +21,14 @@ Rectangle {
         newPost.forceActiveFocus(reason);
     }
 
-    implicitHeight: grid.implicitHeight + 2 * Theme.padding
+    implicitHeight: grid.implicitHeight + 2 * Theme.padding - root.overhang
     color: Theme.header
 
     GridLayout {
         id: grid
 
         x: Theme.padding
-        y: Theme.padding
+        y: Theme.padding - root.overhang
         width: root.width - 2 * Theme.padding
         columns: root.fits ? 2 : 1
         columnSpacing: Theme.padding
@@ -36,8 +38,6 @@ Rectangle {
             id: logo
 
             spacing: Theme.spacing
-            // Above the buttons, it is the name's capitals that stand below the padding, not its line.
-            Layout.topMargin: root.fits ? 0 : -Math.floor(name.baselineOffset + capitals.tightBoundingRect.y)
 
             Image {
                 source: "rss-logo.svg"
