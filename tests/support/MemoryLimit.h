@@ -2,6 +2,7 @@
 
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 #if defined(__has_feature)
@@ -20,7 +21,7 @@ public:
     {
         getrlimit(RLIMIT_AS, &m_before);
 #ifndef TAVLO_ADDRESS_SANITIZER
-        const rlimit limit{bytes, m_before.rlim_max};
+        const rlimit limit{std::min(bytes, m_before.rlim_max), m_before.rlim_max};
         if (setrlimit(RLIMIT_AS, &limit) != 0)
             throw std::runtime_error("memory cannot be limited");
 #endif
